@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cairomm/context.h>
+
+#include "elements/pointvek.h"
+
+/// What an element needs of the view, whatever it is. Defined by the model beside `Echelle`.
+namespace vue {
+
+/// Zero of the geometric tests, in drawing units at the present zoom.
+double Epsilon();
+
+/// Ten pixels in drawing units: the pick distance.
+double Proche10();
+
+/// Drawing units to pixels of the area, y downward; not rounded.
+PointVek VersEcran(const PointVek& p);
+
+/// A length in drawing units as pixels.
+double LongueurEcran(double longueur);
+
+/// Rotation of what is being painted (radians), 0 but inside images.
+double Rotation();
+
+/// Drawing units to page units of the print context, y downward from the sheet's upper left
+/// corner.
+PointVek VersPage(const PointVek& p);
+
+/// A length in drawing units as page units.
+double LongueurPage(double longueur);
+
+}  // namespace vue
