@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "elements/angles.h"
+#include "elements/ecrivain.h"
+#include "elements/lecteur.h"
 #include "elements/vue.h"
 
 PointVek& PointVek::operator+=(const PointVek& v) {
@@ -40,6 +42,14 @@ void PointVek::Transforme(const TransformeColle& t) {
 
 bool PointVek::EstFini() const {
     return std::isfinite(x) && std::isfinite(y) && std::isfinite(z);
+}
+
+Ecrivain& operator<<(Ecrivain& sortie, const PointVek& p) {
+    return sortie << p.x << ' ' << p.y << ' ' << p.z;
+}
+
+Lecteur& operator>>(Lecteur& entree, PointVek& p) {
+    return entree >> p.x >> p.y >> p.z;
 }
 
 PointVek operator-(const PointVek& a, const PointVek& b) {
@@ -79,7 +89,9 @@ PointVek Unitaire(const PointVek& a) {
 }
 
 double Distance(const PointVek& a, const PointVek& b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    return std::sqrt(dx * dx + dy * dy);
 }
 
 double Distance3D(const PointVek& a, const PointVek& b) {

@@ -1,5 +1,8 @@
 #pragma once
 
+class Ecrivain;
+class Lecteur;
+
 /// Paste transform: a point is turned about the drawing's origin, then mirrored, then scaled.
 struct TransformeColle {
     double Agrandissement = 1.0;
@@ -32,6 +35,10 @@ struct PointVek {
 
     bool EstFini() const;
 };
+
+/// x, y, z separated by blanks, with no end of line.
+Ecrivain& operator<<(Ecrivain& sortie, const PointVek& p);
+Lecteur& operator>>(Lecteur& entree, PointVek& p);
 
 PointVek operator-(const PointVek& a, const PointVek& b);
 PointVek operator+(const PointVek& a, const PointVek& b);

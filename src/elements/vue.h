@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cairomm/context.h>
-
 #include "elements/pointvek.h"
 
 /// What an element needs of the view, whatever it is. Defined by the model beside `Echelle`.
@@ -21,12 +19,5 @@ double LongueurEcran(double longueur);
 
 /// Rotation of what is being painted (radians), 0 but inside images.
 double Rotation();
-
-/// Drawing units to page units of the print context, y downward from the sheet's upper left
-/// corner.
-PointVek VersPage(const PointVek& p);
-
-/// A length in drawing units as page units.
-double LongueurPage(double longueur);
 
 }  // namespace vue

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "elements/pointvek.h"
+
+/// An axis-parallel box, in the unit of whoever holds it.
+struct Boite {
+    double Gauche;
+    double Haut;
+    double Droite;
+    double Bas;  ///< At or above `Haut`: y counts downward, as in pixels.
+
+    static Boite Autour(const PointVek& a, const PointVek& b) {
+        return {a.x < b.x ? a.x : b.x, a.y < b.y ? a.y : b.y, a.x < b.x ? b.x : a.x,
+                a.y < b.y ? b.y : a.y};
+    }
+
+    Boite Elargie(double marge) const {
+        return {Gauche - marge, Haut - marge, Droite + marge, Bas + marge};
+    }
+
+    /// False as well where a bound is not a number.
+    bool Touche(const Boite& autre) const {
+        return Gauche <= autre.Droite && autre.Gauche <= Droite && Haut <= autre.Bas &&
+               autre.Haut <= Bas;
+    }
+
+    bool Contient(const PointVek& p) const {
+        return Gauche <= p.x && p.x <= Droite && Haut <= p.y && p.y <= Bas;
+    }
+};

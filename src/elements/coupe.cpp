@@ -1,0 +1,87 @@
+#include "elements/coupe.h"
+
+#include <cmath>
+
+#include "elements/angles.h"
+
+namespace {
+
+/// Narrows [t0, t1] to where origine + t * pas is at most limite.
+bool CoupeCote(double origine, double pas, double limite, double& t0, double& t1) {
+    if (pas == 0.0) return origine <= limite;
+    const double t = (limite - origine) / pas;
+    if (pas > 0.0)
+        t1 = t < t1 ? t : t1;
+    else
+        t0 = t > t0 ? t : t0;
+    return t0 <= t1;
+}
+
+/// One side of the box: what lies beyond limite along the axis, seen with signe, is cut away.
+struct Cote {
+    double PointVek::*Axe;
+    double Signe;
+    double Limite;
+
+    double Depassement(const PointVek& p) const { return Signe * p.*Axe - Limite; }
+};
+
+void CoupeContour(std::vector<PointVek>& sommets, const Cote& cote) {
+    std::vector<PointVek> garde;
+    garde.reserve(sommets.size() + 4);
+    for (std::size_t i = 0; i < sommets.size(); ++i) {
+        const PointVek& ici = sommets[i];
+        const PointVek& suivant = sommets[(i + 1) % sommets.size()];
+        const double d0 = cote.Depassement(ici);
+        const double d1 = cote.Depassement(suivant);
+        if (d0 <= 0.0) garde.push_back(ici);
+        if ((d0 < 0.0 && d1 > 0.0) || (d0 > 0.0 && d1 < 0.0))
+            garde.push_back(ici + (suivant - ici) * (d0 / (d0 - d1)));
+    }
+    sommets.swap(garde);
+}
+
+void Subdivise(const ArcEcran& arc, double a0, double a1, const Boite& boite, int profondeur,
+               std::vector<double>& angles) {
+    const double demi = std::abs(a1 - a0) / 2.0;
+    const double fleche = arc.Rayon * (1.0 - std::cos(demi));
+    const PointVek milieu = (arc.Point(a0) + arc.Point(a1)) / 2.0;
+    const Boite portee = Boite::Autour(milieu, milieu).Elargie(arc.Rayon * std::sin(demi) + fleche);
+    const bool assezFin = demi < Pi / 4.0 && (fleche < 0.25 || !portee.Touche(boite));
+    if (assezFin || profondeur == 0) {
+        angles.push_back(a1);
+        return;
+    }
+    const double am = (a0 + a1) / 2.0;
+    Subdivise(arc, a0, am, boite, profondeur - 1, angles);
+    Subdivise(arc, am, a1, boite, profondeur - 1, angles);
+}
+
+}  // namespace
+
+bool CoupeLigne(const PointVek& a, const PointVek& b, const Boite& boite, double& t0, double& t1) {
+    const PointVek d = b - a;
+    return CoupeCote(a.x, d.x, boite.Droite, t0, t1) &&
+           CoupeCote(-a.x, -d.x, -boite.Gauche, t0, t1) &&
+           CoupeCote(a.y, d.y, boite.Bas, t0, t1) && CoupeCote(-a.y, -d.y, -boite.Haut, t0, t1);
+}
+
+std::vector<PointVek> CoupePolygone(std::vector<PointVek> sommets, const Boite& boite) {
+    for (const Cote& cote : {Cote{&PointVek::x, 1.0, boite.Droite},
+                             Cote{&PointVek::x, -1.0, -boite.Gauche},
+                             Cote{&PointVek::y, 1.0, boite.Bas},
+                             Cote{&PointVek::y, -1.0, -boite.Haut}})
+        CoupeContour(sommets, cote);
+    return sommets;
+}
+
+PointVek ArcEcran::Point(double angle) const {
+    return {Centre.x + Rayon * std::cos(angle), Centre.y - Rayon * std::sin(angle)};
+}
+
+std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite) {
+    constexpr int profondeurMax = 40;
+    std::vector<double> angles{arc.Debut};
+    Subdivise(arc, arc.Debut, arc.Debut + arc.Ouverture, boite, profondeurMax, angles);
+    return angles;
+}

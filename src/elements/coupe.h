@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include "elements/boite.h"
+
+/// Cutting of lines, polygons and arcs to a box, in doubles. All coordinates are pixels, y
+/// downward.
+
+/// Cuts the line a b to the box, for parameters from t0 (0 at a) to t1 (1 at b), which come back
+/// narrowed. False when nothing of it lies in the box.
+bool CoupeLigne(const PointVek& a, const PointVek& b, const Boite& boite, double& t0, double& t1);
+
+/// The part of a filled polygon that lies in the box; its edges may run along the border.
+std::vector<PointVek> CoupePolygone(std::vector<PointVek> sommets, const Boite& boite);
+
+struct ArcEcran {
+    PointVek Centre;
+    double Rayon;
+    double Debut;      ///< Radians, counter-clockwise as seen.
+    double Ouverture;  ///< Radians, at most one turn either way.
+
+    PointVek Point(double angle) const;
+};
+
+/// Angles along the arc, both ends included, whose chords stay within a quarter pixel of it
+/// wherever it may touch the box. Their number grows with the logarithm of the radius.
+std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite);

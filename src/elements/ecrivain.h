@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Builds the text of a file: numbers with a decimal point whatever the locale, doubles with at
+/// most 6 significant digits in the shorter of fixed and exponent form.
+class Ecrivain {
+  public:
+    Ecrivain& operator<<(char c);
+    Ecrivain& operator<<(std::string_view texte);
+    Ecrivain& operator<<(const char* texte) { return *this << std::string_view(texte); }
+    Ecrivain& operator<<(int valeur);
+    Ecrivain& operator<<(bool valeur);
+
+    /// What is not finite is written as 0, so that every file written can be read.
+    Ecrivain& operator<<(double valeur);
+
+    const std::string& Texte() const { return Tampon; }
+
+  private:
+    std::string Tampon;
+};

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <glibmm/ustring.h>
+
+#include <memory>
+
+#include "elements/liste.h"
+#include "elements/minorant.h"
+#include "elements/pointvek.h"
+#include "elements/trait.h"
+#include "elements/types.h"
+
+class Trace;
+
+/// Number of the grabbed handle while an element is deformed: 0 none, 1 the whole element, the
+/// others as each class says. One for the program, since one element is deformed at a time.
+extern int PoigneeCourante;
+
+/// Base of everything that a drawing holds. Lengths and positions are drawing units. An element
+/// belongs to the container that holds it; `Fils` only refers to other elements of the same
+/// container.
+class EltGeo {
+  public:
+    explicit EltGeo(int type = TypeGeo);
+    EltGeo(const PointVek& position, int calque);
+
+    /// The copy refers to the same children without being counted as their parent.
+    EltGeo(const EltGeo& source);
+    EltGeo& operator=(const EltGeo&) = delete;
+    virtual ~EltGeo() = default;
+
+    virtual std::unique_ptr<EltGeo> Clone() const;
+
+    /// Takes over everything from a source of the same class but the type and the number of
+    /// parents. The children's own counts are the caller's matter (`VideFils`, `ReferenceFils`).
+    virtual void Copie(const EltGeo& source);
+
+    /// Paints the element on screen, style included; base: a cross.
+    virtual void Dessine(Trace& trace) const;
+
+    /// Paints the grab handles of the picked element; base: one square at the position.
+    virtual void DessinePoignees(Trace& trace) const;
+
+    Glib::ustring Nom() const;
+
+    virtual void Place(const PointVek& p);
+    virtual void Deplace(const PointVek& v);
+    virtual void Transforme(const TransformeColle& t);
+
+    /// Takes the style; a class without surface takes no fill and no hatch.
+    virtual void ChangeTrait(const Trait& trait);
+
+    /// Chooses the handle that p grabs.
+    virtual void DebutDeforme(const PointVek& p);
+
+    /// Moves the grabbed handle by v.
+    virtual void Deforme(const PointVek& v);
+
+    /// Writes the element's record, type code first.
+    virtual void Sauve(Ecrivain& sortie) const;
+
+    /// Reads the record behind its type code. After a failure of the reader the fields that were
+    /// not reached keep their values.
+    virtual void Charge(Lecteur& entree);
+
+    virtual double Distance(const PointVek& p) const;
+
+    /// Distance to what carries the element: the endless line, the full circle.
+    virtual double DistanceSupport(const PointVek& p) const;
+
+    double Distance3D(const PointVek& p) const;
+
+    /// At or below `Distance` and `DistanceSupport` for every point.
+    virtual Minorant MinorantDistance() const;
+
+    /// Computes the derived fields from the defining ones.
+    virtual void Recalcule() {}
+
+    PointVek Centre() const { return Position; }
+
+    /// The special point (end, middle, corner) nearest to p.
+    virtual PointVek PointProche(const PointVek& p) const;
+
+    /// A vector along the element; null when the element is too small to be kept.
+    virtual PointVek Direction() const;
+
+    /// False for what must not enter a drawing: a coordinate that is not finite, an element
+    /// smaller than `Epsilon`.
+    virtual bool EstValide() const;
+
+    void AjouteFils(EltGeo* fils);
+
+    /// Lowers the child's count even when it was not in the list: that is meant.
+    void RetireFils(EltGeo* fils);
+    void VideFils();
+
+    /// Counts this element as a parent of each of its children, as an added clone must.
+    void ReferenceFils();
+
+    PointVek Position;
+    Liste<EltGeo> Fils{false};
+    int NbParents = 0;  ///< How many elements of the drawing hold this one as a child.
+    int Type;
+    Trait Style;
+    int Calque = 0;
+
+  protected:
+    void CopieFils(const EltGeo& source);
+};

@@ -1,0 +1,99 @@
+#include "elements/eltrectangle.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "elements/distances.h"
+#include "elements/trace.h"
+#include "elements/vue.h"
+
+EltRectangle::EltRectangle() : EltSegment(TypeRectangle) {}
+
+EltRectangle::EltRectangle(const PointVek& origine, const PointVek& extremite, int calque)
+    : EltSegment(origine, extremite, calque) {
+    Type = TypeRectangle;
+}
+
+std::unique_ptr<EltGeo> EltRectangle::Clone() const {
+    return std::make_unique<EltRectangle>(*this);
+}
+
+void EltRectangle::Dessine(Trace& trace) const {
+    const CoinsOrdonnes coins = Coins();
+    const PointVek a = vue::VersEcran(coins.HautGauche), b = vue::VersEcran(coins.BasDroite);
+    double largeur = std::round(b.x - a.x), hauteur = std::round(b.y - a.y);
+    // A rectangle without area stays visible, so that it can be picked.
+    if (largeur < 1.0 || hauteur < 1.0) largeur = hauteur = 10.0;
+    if (!trace.Touche(Boite::Autour(a, a + PointVek(largeur, hauteur)), Style)) return;
+    trace.AppliqueTrait(Style, Style.Remplissage ? Trace::Surface : Trace::Ligne);
+    trace.Rectangle(a, largeur, hauteur, Style.Remplissage);
+    if (!Style.Remplissage || !Style.Contour) return;
+    trace.AppliqueTrait(Style, Trace::Ligne);
+    trace.Rectangle(a, largeur, hauteur, false);
+}
+
+void EltRectangle::DessinePoignees(Trace& trace) const {
+    trace.AppliqueTrait(Style, Trace::Ligne);
+    const CoinsOrdonnes coins = Coins();
+    for (const PointVek& p :
+         {coins.HautGauche, coins.BasDroite, coins.BasGauche(), coins.HautDroite()})
+        trace.Poignee(vue::VersEcran(p));
+}
+
+void EltRectangle::Transforme(const TransformeColle& t) {
+    EltSegment::Transforme(t);
+    Ordonne();
+}
+
+void EltRectangle::ChangeTrait(const Trait& trait) {
+    Style = trait;
+}
+
+void EltRectangle::Deforme(const PointVek& v) {
+    EltSegment::Deforme(v);
+    Ordonne();
+}
+
+double EltRectangle::Distance(const PointVek& p) const {
+    const CoinsOrdonnes coins = Coins();
+    const PointVek a = coins.HautGauche, b = coins.HautDroite();
+    const PointVek c = coins.BasDroite, d = coins.BasGauche();
+    return std::min({DistanceSegment(p, a, b), DistanceSegment(p, b, c), DistanceSegment(p, c, d),
+                     DistanceSegment(p, d, a)});
+}
+
+double EltRectangle::DistanceSupport(const PointVek& p) const {
+    return Distance(p);
+}
+
+Minorant EltRectangle::MinorantDistance() const {
+    return Minorant::Rectangle(Origine, Extremite);
+}
+
+PointVek EltRectangle::PointProche(const PointVek& p) const {
+    const CoinsOrdonnes coins = Coins();
+    return PlusProche(p,
+                      {coins.HautGauche, coins.BasDroite, coins.BasGauche(), coins.HautDroite()});
+}
+
+void EltRectangle::SetOrigine(const PointVek& p) {
+    SetPoints(p, p + (Extremite - Origine));
+}
+
+EltRectangle::CoinsOrdonnes EltRectangle::Coins() const {
+    const auto [gauche, droite] = std::minmax(Origine.x, Extremite.x);
+    const auto [bas, haut] = std::minmax(Origine.y, Extremite.y);
+    return {{gauche, haut, Origine.z}, {droite, bas, Extremite.z}};
+}
+
+void EltRectangle::Ordonne() {
+    const CoinsOrdonnes coins = Coins();
+    SetPoints(coins.HautGauche, coins.BasDroite);
+}
+
+bool EltRectangle::Contient(const EltGeo& elt) const {
+    const CoinsOrdonnes coins = Coins();
+    const PointVek c = elt.Centre();
+    return coins.HautGauche.x < c.x && c.x < coins.BasDroite.x && coins.BasDroite.y < c.y &&
+           c.y < coins.HautGauche.y;
+}

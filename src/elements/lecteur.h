@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+/// Reads blank-separated tokens from a text in one pass. The text belongs to the caller and must
+/// outlive the reader. A value that cannot be read is left as it was and puts the reader into
+/// failure; from then on nothing is read.
+class Lecteur {
+  public:
+    explicit Lecteur(std::string_view texte);
+
+    bool Echec() const { return EnEchec; }
+
+    /// True once a reading has touched the end of the text.
+    bool Fin() const { return AuBout; }
+
+    bool PeutLire() const { return !EnEchec && !AuBout; }
+
+    /// Leading digits of the next token; refused when there are none or the value does not fit.
+    Lecteur& operator>>(int& valeur);
+
+    /// Refused when the next token does not start a number or the value is not finite.
+    Lecteur& operator>>(double& valeur);
+
+    /// A whole number, true unless it is 0.
+    Lecteur& operator>>(bool& valeur);
+
+    /// The next blank-delimited word; empty, with failure, when there is none.
+    std::string_view Mot();
+
+  private:
+    template <class T>
+    Lecteur& Nombre(T& valeur);
+    void SauteBlancs();
+
+    const char* Position;
+    const char* Borne;
+    bool EnEchec = false;
+    bool AuBout = false;
+};

@@ -1,0 +1,89 @@
+#pragma once
+
+/// Singly linked list of pointers. Every walk has its own position (range for), so that a list may
+/// be looked up while it is being walked; it must not be changed during a walk.
+template <class T>
+class Liste {
+    struct Maillon {
+        T* Valeur;
+        Maillon* Suivant;
+    };
+
+  public:
+    class Iterateur {
+      public:
+        explicit Iterateur(const Maillon* maillon) : Courant(maillon) {}
+        T* operator*() const { return Courant->Valeur; }
+        Iterateur& operator++() {
+            Courant = Courant->Suivant;
+            return *this;
+        }
+        bool operator!=(const Iterateur& autre) const { return Courant != autre.Courant; }
+
+      private:
+        const Maillon* Courant;
+    };
+
+    /// An owning list destroys its values when it is emptied or destroyed.
+    explicit Liste(bool proprietaire) : Proprietaire(proprietaire) {}
+    ~Liste() { Vide(); }
+    Liste(const Liste&) = delete;
+    Liste& operator=(const Liste&) = delete;
+
+    Iterateur begin() const { return Iterateur(Tete); }
+    Iterateur end() const { return Iterateur(nullptr); }
+    int Nombre() const { return Compte; }
+
+    /// Value at the head, null when the list is empty.
+    T* Premier() const { return Tete ? Tete->Valeur : nullptr; }
+
+    void AjouteDebut(T* valeur) {
+        Tete = new Maillon{valeur, Tete};
+        if (!Queue) Queue = Tete;
+        ++Compte;
+    }
+
+    void Ajoute(T* valeur) {
+        auto* maillon = new Maillon{valeur, nullptr};
+        (Queue ? Queue->Suivant : Tete) = maillon;
+        Queue = maillon;
+        ++Compte;
+    }
+
+    /// Unlinks the first node that holds valeur, which is left alone. False when there is none.
+    bool Retire(const T* valeur) {
+        Maillon* precedent = nullptr;
+        for (Maillon* m = Tete; m; precedent = m, m = m->Suivant) {
+            if (m->Valeur != valeur) continue;
+            (precedent ? precedent->Suivant : Tete) = m->Suivant;
+            if (Queue == m) Queue = precedent;
+            delete m;
+            --Compte;
+            return true;
+        }
+        return false;
+    }
+
+    bool Contient(const T* valeur) const {
+        for (const T* v : *this)
+            if (v == valeur) return true;
+        return false;
+    }
+
+    void Vide() {
+        while (Tete) {
+            Maillon* m = Tete;
+            Tete = m->Suivant;
+            if (Proprietaire) delete m->Valeur;
+            delete m;
+        }
+        Queue = nullptr;
+        Compte = 0;
+    }
+
+  private:
+    Maillon* Tete = nullptr;
+    Maillon* Queue = nullptr;
+    int Compte = 0;
+    const bool Proprietaire;
+};

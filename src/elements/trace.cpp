@@ -1,0 +1,257 @@
+#include "elements/trace.h"
+
+#include <gdk/gdk.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "elements/angles.h"
+#include "elements/tuile.h"
+
+namespace {
+
+/// The window system takes coordinates and lengths of 16 bits; this leaves room for wide lines and
+/// for the offset of a partial exposure.
+constexpr double Limite = 16000.0;
+constexpr Boite Envoyable{-Limite, -Limite, Limite, Limite};
+
+/// Radius in pixels up to which an arc is left to the window system.
+constexpr double RayonDirect = 4000.0;
+
+struct Tirage {
+    gint8 Longueurs[4];
+    int Nombre;
+    int Periode;
+};
+
+const Tirage& TirageDe(int styleLigne) {
+    static const Tirage tirages[] = {
+        {{5, 5, 0, 0}, 2, 10}, {{10, 5, 3, 5}, 4, 23}, {{2, 2, 0, 0}, 2, 4}};
+    return tirages[styleLigne - Tirets];
+}
+
+int Pixels(double v) {
+    return static_cast<int>(std::lround(v));
+}
+
+}  // namespace
+
+Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur)
+    : Support(surface),
+      Contexte(Gdk::GC::create(surface)),
+      Zone{0.0, 0.0, static_cast<double>(largeur), static_cast<double>(hauteur)} {}
+
+Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+             const Gdk::Rectangle& exposee)
+    : Trace(surface, largeur, hauteur) {
+    const double x = exposee.get_x(), y = exposee.get_y();
+    Zone = {std::max(0.0, x), std::max(0.0, y),
+            std::min<double>(largeur, x + exposee.get_width()),
+            std::min<double>(hauteur, y + exposee.get_height())};
+}
+
+Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+             const Gdk::Color& fond)
+    : Trace(surface, largeur, hauteur) {
+    Bande = true;
+    PixelFond = Pixel(fond);
+    Contexte->set_function(Gdk::XOR);
+}
+
+bool Trace::Touche(const Boite& boite, const Trait& trait) const {
+    return boite.Touche(Zone.Elargie(EpaisseurBornee(trait) + 2.0));
+}
+
+void Trace::AppliqueTrait(const Trait& trait, Matiere matiere) {
+    AppliqueLigne(EpaisseurBornee(trait), trait.StyleLigne);
+    const bool tuile = matiere == Surface && trait.Hachure == 1;
+    if (tuile) {
+        AppliqueTuile(trait);
+    } else {
+        AppliqueCouleur(matiere == Surface && trait.Remplissage ? trait.CouleurFond
+                                                                : trait.Couleur);
+        if (Tuilage) Contexte->set_fill(Gdk::SOLID);
+    }
+    Tuilage = tuile;
+}
+
+void Trace::AppliqueLigne(int epaisseur, int styleLigne) {
+    if (LigneConnue && epaisseur == EpaisseurPosee && styleLigne == StylePose) return;
+    // Round caps would join the dots of a wide dashed line.
+    if (styleLigne == Continu)
+        Contexte->set_line_attributes(epaisseur, Gdk::LINE_SOLID, Gdk::CAP_ROUND, Gdk::JOIN_MITER);
+    else
+        Contexte->set_line_attributes(epaisseur, Gdk::LINE_ON_OFF_DASH, Gdk::CAP_BUTT,
+                                      Gdk::JOIN_MITER);
+    LigneConnue = true;
+    EpaisseurPosee = epaisseur;
+    StylePose = styleLigne;
+    PhasePosee = -1;
+    PlacePhase(0.0);
+}
+
+void Trace::PlacePhase(double phase) {
+    if (StylePose == Continu) return;
+    const Tirage& tirage = TirageDe(StylePose);
+    double reste = std::fmod(phase, tirage.Periode);
+    if (reste < 0.0) reste += tirage.Periode;
+    const int entiere = Pixels(reste) % tirage.Periode;
+    if (entiere == PhasePosee) return;
+    gint8 longueurs[4];
+    std::copy_n(tirage.Longueurs, 4, longueurs);
+    gdk_gc_set_dashes(Contexte->gobj(), entiere, longueurs, tirage.Nombre);
+    PhasePosee = entiere;
+}
+
+guint32 Trace::Pixel(const Gdk::Color& couleur) const {
+    GdkColor cherchee = *couleur.gobj();
+    gdk_rgb_find_color(Support->get_colormap()->gobj(), &cherchee);
+    return cherchee.pixel;
+}
+
+void Trace::AppliqueCouleur(const Gdk::Color& couleur) {
+    if (CouleurConnue && gdk_color_equal(couleur.gobj(), &CouleurPosee)) return;
+    CouleurConnue = true;
+    CouleurPosee = *couleur.gobj();
+    if (!Bande) {
+        Contexte->set_rgb_fg_color(couleur);
+        return;
+    }
+    GdkColor exclusif = CouleurPosee;
+    exclusif.pixel = (Pixel(couleur) ^ PixelFond) & 0xffffff;
+    if (exclusif.pixel == 0) exclusif.pixel = 0xffffff;
+    gdk_gc_set_foreground(Contexte->gobj(), &exclusif);
+}
+
+void Trace::AppliqueTuile(const Trait& trait) {
+    const bool posee = TuilePosee && trait.PasHachure == TraitTuile.PasHachure &&
+                       trait.AngleHachure == TraitTuile.AngleHachure &&
+                       trait.Epaisseur == TraitTuile.Epaisseur &&
+                       trait.Couleur == TraitTuile.Couleur &&
+                       trait.CouleurFond == TraitTuile.CouleurFond;
+    if (!posee) {
+        TuilePosee = TuileHachure(Support, trait);
+        TraitTuile = trait;
+        if (Bande) InverseTuile(TuilePosee);
+        Contexte->set_tile(TuilePosee);
+    }
+    if (!posee || !Tuilage) Contexte->set_fill(Gdk::TILED);
+}
+
+void Trace::InverseTuile(const Glib::RefPtr<Gdk::Pixmap>& tuile) const {
+    const auto gc = Gdk::GC::create(tuile);
+    gc->set_function(Gdk::XOR);
+    GdkColor fond = {};
+    fond.pixel = PixelFond;
+    gdk_gc_set_foreground(gc->gobj(), &fond);
+    int largeur = 0, hauteur = 0;
+    tuile->get_size(largeur, hauteur);
+    tuile->draw_rectangle(gc, true, 0, 0, largeur, hauteur);
+}
+
+void Trace::Segment(const PointVek& a, const PointVek& b) {
+    LigneDepuis(a, b, 0.0);
+}
+
+void Trace::LigneDepuis(const PointVek& a, const PointVek& b, double phase) {
+    if (Envoyable.Contient(a) && Envoyable.Contient(b)) {
+        PlacePhase(phase);
+        gdk_draw_line(Support->gobj(), Contexte->gobj(), Pixels(a.x), Pixels(a.y), Pixels(b.x),
+                      Pixels(b.y));
+        return;
+    }
+    double t0 = 0.0, t1 = 1.0;
+    if (!CoupeLigne(a, b, Envoyable, t0, t1)) return;
+    const PointVek d = b - a;
+    const PointVek debut = a + d * t0, fin = a + d * t1;
+    if (!debut.EstFini() || !fin.EstFini()) return;
+    PlacePhase(phase + Norme(d) * t0);
+    gdk_draw_line(Support->gobj(), Contexte->gobj(), Pixels(debut.x), Pixels(debut.y),
+                  Pixels(fin.x), Pixels(fin.y));
+}
+
+void Trace::Droite(const PointVek& p, const PointVek& d) {
+    const double longueur = Norme(d);
+    const PointVek u = longueur > 0.0 ? d / longueur : PointVek(0.0, 1.0);
+    double t0 = -HUGE_VAL, t1 = HUGE_VAL;
+    if (!CoupeLigne(p, p + u, Zone.Elargie(EpaisseurPosee + 2.0), t0, t1)) return;
+    // Dashes are counted from p, so that they stay with the line when the view moves.
+    LigneDepuis(p + u * t0, p + u * t1, t0);
+}
+
+void Trace::Arc(ArcEcran arc, bool plein) {
+    if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon)) return;
+    arc.Debut = std::fmod(arc.Debut, DeuxPi);
+    arc.Ouverture = std::clamp(arc.Ouverture, -DeuxPi, DeuxPi);
+    const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);
+    if (arc.Rayon > RayonDirect || !Envoyable.Contient({boite.Gauche, boite.Haut}) ||
+        !Envoyable.Contient({boite.Droite, boite.Bas})) {
+        ArcParPas(arc, plein);
+        return;
+    }
+    PlacePhase(0.0);
+    const int cote = Pixels(2.0 * arc.Rayon);
+    gdk_draw_arc(Support->gobj(), Contexte->gobj(), plein, Pixels(boite.Gauche), Pixels(boite.Haut),
+                 cote, cote, Pixels(EnDegres(arc.Debut) * 64.0),
+                 Pixels(EnDegres(arc.Ouverture) * 64.0));
+}
+
+void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
+    const Boite vue = Zone.Elargie(EpaisseurPosee + 2.0);
+    const std::vector<double> angles = PasArc(arc, vue);
+    if (plein) {
+        std::vector<PointVek> sommets;
+        if (std::abs(arc.Ouverture) < DeuxPi) sommets.push_back(arc.Centre);
+        for (const double angle : angles)
+            sommets.push_back(arc.Point(angle));
+        std::vector<GdkPoint> pixels;
+        for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable))
+            pixels.push_back({Pixels(p.x), Pixels(p.y)});
+        if (pixels.size() > 2)
+            gdk_draw_polygon(Support->gobj(), Contexte->gobj(), TRUE, pixels.data(),
+                             static_cast<int>(pixels.size()));
+        return;
+    }
+    for (std::size_t i = 1; i < angles.size(); ++i) {
+        const PointVek a = arc.Point(angles[i - 1]), b = arc.Point(angles[i]);
+        if (Boite::Autour(a, b).Touche(vue))
+            LigneDepuis(a, b, std::abs(angles[i - 1] - arc.Debut) * arc.Rayon);
+    }
+}
+
+void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein) {
+    const PointVek oppose(coin.x + largeur, coin.y + hauteur);
+    if (!coin.EstFini() || !oppose.EstFini()) return;
+    if (Envoyable.Contient(coin) && Envoyable.Contient(oppose)) {
+        PlacePhase(0.0);
+        gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), plein, Pixels(coin.x),
+                           Pixels(coin.y), Pixels(largeur), Pixels(hauteur));
+        return;
+    }
+    if (plein) {
+        const double gauche = std::max(coin.x, -Limite), haut = std::max(coin.y, -Limite);
+        const double l = std::min(oppose.x, Limite) - gauche;
+        const double h = std::min(oppose.y, Limite) - haut;
+        if (l > 0.0 && h > 0.0)
+            gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), TRUE, Pixels(gauche),
+                               Pixels(haut), Pixels(l), Pixels(h));
+        return;
+    }
+    const PointVek droit(oppose.x, coin.y), gauche(coin.x, oppose.y);
+    LigneDepuis(coin, droit, 0.0);
+    LigneDepuis(droit, oppose, largeur);
+    LigneDepuis(oppose, gauche, largeur + hauteur);
+    LigneDepuis(gauche, coin, largeur * 2.0 + hauteur);
+}
+
+void Trace::Poignee(const PointVek& centre) {
+    if (!Envoyable.Contient(centre)) return;
+    PlacePhase(0.0);
+    gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, Pixels(centre.x) - 5,
+                       Pixels(centre.y) - 5, 10, 10);
+}
+
+void Trace::Point(const PointVek& p) {
+    if (!Zone.Contient(p)) return;
+    gdk_draw_point(Support->gobj(), Contexte->gobj(), Pixels(p.x), Pixels(p.y));
+}

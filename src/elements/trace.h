@@ -1,0 +1,82 @@
+#pragma once
+
+#include <gdkmm/drawable.h>
+#include <gdkmm/gc.h>
+#include <gdkmm/rectangle.h>
+
+#include <vector>
+
+#include "elements/coupe.h"
+#include "elements/trait.h"
+
+/// Paints on a window or pixmap: the only place where elements and bands meet the toolkit's drawing
+/// calls. Coordinates are pixels in doubles, y downward; they are rounded here, and cut here to what
+/// the window system can take (16 bits): what lies outside the area is never sent.
+class Trace {
+  public:
+    /// How a style is put on the context: a shape's surface takes its fill and hatch, anything else
+    /// its plain colour.
+    enum Matiere { Ligne, Surface };
+
+    /// Plain painting of the part exposee of an area of largeur by hauteur pixels.
+    Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+          const Gdk::Rectangle& exposee);
+
+    /// Painting of a band: painted twice it leaves no trace, and on the plain background fond it
+    /// shows the element's own colours, or the inverse of the background where they are equal.
+    Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+          const Gdk::Color& fond);
+
+    /// True when something inside the box, painted with the style, may show.
+    bool Touche(const Boite& boite, const Trait& trait) const;
+
+    void AppliqueTrait(const Trait& trait, Matiere matiere);
+
+    /// From a to b, in the style applied last, like all that follow.
+    void Segment(const PointVek& a, const PointVek& b);
+
+    /// The endless line through p along d, from edge to edge; vertical when d is null.
+    void Droite(const PointVek& p, const PointVek& d);
+
+    /// The arc's line, or with plein its sector.
+    void Arc(ArcEcran arc, bool plein);
+
+    void Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein);
+
+    /// The open square of 10 by 10 pixels that marks a grab handle.
+    void Poignee(const PointVek& centre);
+
+    /// One pixel.
+    void Point(const PointVek& p);
+
+  private:
+    Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur);
+
+    void AppliqueCouleur(const Gdk::Color& couleur);
+    void AppliqueLigne(int epaisseur, int styleLigne);
+    void AppliqueTuile(const Trait& trait);
+    guint32 Pixel(const Gdk::Color& couleur) const;
+    void InverseTuile(const Glib::RefPtr<Gdk::Pixmap>& tuile) const;
+
+    /// A line whose dashes have already run over phase pixels.
+    void LigneDepuis(const PointVek& a, const PointVek& b, double phase);
+    void ArcParPas(const ArcEcran& arc, bool plein);
+    void PlacePhase(double phase);
+
+    Glib::RefPtr<Gdk::Drawable> Support;
+    Glib::RefPtr<Gdk::GC> Contexte;
+    Boite Zone;  ///< Only what touches it needs to be painted.
+    bool Bande = false;
+    guint32 PixelFond = 0;
+
+    // What the context holds, so that an attribute is set only when it changes.
+    bool LigneConnue = false;
+    int EpaisseurPosee = 0;
+    int StylePose = Continu;
+    int PhasePosee = 0;
+    bool CouleurConnue = false;
+    GdkColor CouleurPosee = {};
+    bool Tuilage = false;
+    Glib::RefPtr<Gdk::Pixmap> TuilePosee;
+    Trait TraitTuile;
+};
