@@ -38,8 +38,7 @@ void EltGeo::Dessine(Trace& trace) const {
     const PointVek p = vue::VersEcran(Position);
     if (!trace.Touche(Boite::Autour(p, p).Elargie(5.0), Style)) return;
     trace.AppliqueTrait(Style, Trace::Ligne);
-    trace.Segment({p.x - 5.0, p.y}, {p.x + 5.0, p.y});
-    trace.Segment({p.x, p.y - 5.0}, {p.x, p.y + 5.0});
+    trace.Croix(p, 5.0);
 }
 
 void EltGeo::DessinePoignees(Trace& trace) const {

@@ -66,3 +66,7 @@ std::string_view Lecteur::Mot() {
     if (Position == debut) EnEchec = true;
     return {debut, static_cast<std::size_t>(Position - debut)};
 }
+
+void Lecteur::RefuseVersion(std::string_view mot) {
+    if (Refusee.empty()) Refusee = mot.empty() ? " " : std::string(mot);
+}

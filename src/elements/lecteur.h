@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 /// Reads blank-separated tokens from a text in one pass. The text belongs to the caller and must
@@ -28,6 +29,12 @@ class Lecteur {
     /// The next blank-delimited word; empty, with failure, when there is none.
     std::string_view Mot();
 
+    /// Notes the first version word that could not be accepted, for whoever started the load.
+    void RefuseVersion(std::string_view mot);
+
+    /// Empty when no version was refused.
+    const std::string& VersionRefusee() const { return Refusee; }
+
   private:
     template <class T>
     Lecteur& Nombre(T& valeur);
@@ -37,4 +44,5 @@ class Lecteur {
     const char* Borne;
     bool EnEchec = false;
     bool AuBout = false;
+    std::string Refusee;
 };

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <iterator>
+
 /// Singly linked list of pointers. Every walk has its own position (range for), so that a list may
 /// be looked up while it is being walked; it must not be changed during a walk.
 template <class T>
@@ -12,12 +15,24 @@ class Liste {
   public:
     class Iterateur {
       public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = T*;
+        using difference_type = std::ptrdiff_t;
+        using pointer = T* const*;
+        using reference = T*;
+
         explicit Iterateur(const Maillon* maillon) : Courant(maillon) {}
         T* operator*() const { return Courant->Valeur; }
         Iterateur& operator++() {
             Courant = Courant->Suivant;
             return *this;
         }
+        Iterateur operator++(int) {
+            const Iterateur avant = *this;
+            ++*this;
+            return avant;
+        }
+        bool operator==(const Iterateur& autre) const { return Courant == autre.Courant; }
         bool operator!=(const Iterateur& autre) const { return Courant != autre.Courant; }
 
       private:

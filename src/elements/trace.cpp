@@ -251,6 +251,11 @@ void Trace::Poignee(const PointVek& centre) {
                        Pixels(centre.y) - 5, 10, 10);
 }
 
+void Trace::Croix(const PointVek& centre, double bras) {
+    Segment({centre.x - bras, centre.y}, {centre.x + bras, centre.y});
+    Segment({centre.x, centre.y - bras}, {centre.x, centre.y + bras});
+}
+
 void Trace::Point(const PointVek& p) {
     if (!Zone.Contient(p)) return;
     gdk_draw_point(Support->gobj(), Contexte->gobj(), Pixels(p.x), Pixels(p.y));

@@ -46,6 +46,9 @@ class Trace {
     /// The open square of 10 by 10 pixels that marks a grab handle.
     void Poignee(const PointVek& centre);
 
+    /// Two lines of bras pixels to each side of the centre.
+    void Croix(const PointVek& centre, double bras);
+
     /// One pixel.
     void Point(const PointVek& p);
 

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <sigc++/signal.h>
+
+#include <string>
+#include <vector>
+
+#include "model/bddgeobase.h"
+#include "model/tablerecherche.h"
+
+class EltRectangle;
+
+/// One step that can be undone.
+struct EnregAnnul {
+    enum Genre { Retire = 1, Ajoute = 2, Change = 3 };
+
+    Genre Quoi;
+    std::unique_ptr<EltGeo> Element;  ///< What was removed, or the element as it was before.
+    EltGeo* Cible = nullptr;          ///< The element in the list that was added or changed.
+};
+
+/// The drawing: elements with undo, the searches at a point, and the file.
+///
+/// Distances and positions are drawing units. Every change of an element's geometry goes through
+/// here, since the searches work on a table of it.
+class BDDGeo : public BDDGeoBase {
+  public:
+    EltGeo* AjouteDebut(std::unique_ptr<EltGeo> elt) override;
+    EltGeo* AjouteFin(std::unique_ptr<EltGeo> elt) override;
+
+    /// Also forgets the undo records and the file.
+    void Vide() override;
+
+    /// Takes a new element in at the head, with an undo record. An element that is not valid is
+    /// destroyed, and the answer is null.
+    EltGeo* Ajoute(std::unique_ptr<EltGeo> elt);
+
+    /// The same with a copy of a prototype.
+    EltGeo* Ajoute(const EltGeo& prototype);
+
+    /// Gives cible, an element of the list, the content of source, with an undo record. False, with
+    /// nothing done, when source is not valid.
+    bool Change(EltGeo& cible, const EltGeo& source);
+
+    /// Undoes the newest step; false when there is none. `Modifie` stays as it is.
+    bool Annule();
+
+    /// The visible element nearest to p, when it is nearer than the pick distance; else null.
+    EltGeo* Cherche(const PointVek& p);
+    EltGeo* ChercheType(const PointVek& p, int type);
+
+    /// The same, measured to the supports when support is true; remembered whatever its distance.
+    EltGeo* ChercheProche(const PointVek& p, bool support);
+
+    /// The same among all but the one that `ChercheProche` remembered.
+    EltGeo* ChercheAutre(const PointVek& p, bool support);
+
+    // Commands on the element at a point; false when there is none. An element that another holds
+    // as a child is not removed.
+    bool Efface(const PointVek& p);
+    bool Avant(const PointVek& p);
+    bool Arriere(const PointVek& p);
+
+    /// Gives the style to all visible elements in the rectangle, without undo and without marking
+    /// the drawing as modified: that is meant.
+    void ChangeTraitZone(const EltRectangle& zone, const Trait& trait);
+
+    /// Replaces the drawing by a file's. What cannot be read leaves an empty or partly read drawing
+    /// that bears the file's name all the same.
+    void Ouvre(const std::string& nom);
+    void Enregistre();
+    void EnregistreSous(const std::string& nom);
+
+    /// Tells that an element is about to leave the drawing, or with null that all are: whoever
+    /// holds one lets go of it.
+    sigc::signal<void, EltGeo*>& SignalRetrait() { return Retrait; }
+
+    std::string NomFichier;  ///< In the encoding of file names.
+    bool Nomme = false;      ///< `NomFichier` names a file of the present format.
+
+  private:
+    template <class Admet>
+    EltGeo* ChercheSelon(const PointVek& p, bool support, const Admet& admet, double& distance);
+
+    /// Takes the element out of the list and out of every child list; the caller owns it then.
+    std::unique_ptr<EltGeo> Retire(EltGeo* elt);
+
+    /// Unlinks the element at p, for a change of its place in the stack.
+    std::unique_ptr<EltGeo> Decroche(const PointVek& p);
+
+    std::vector<EnregAnnul> Annulations;  ///< The newest last.
+    EltGeo* DernierTrouve = nullptr;
+    TableRecherche Table;
+    sigc::signal<void, EltGeo*> Retrait;
+};
+
+/// The drawing of the program.
+extern BDDGeo BddCourante;

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "elements/eltgeo.h"
+
+/// An ordered list of elements, which it owns: the head is painted first and lies underneath.
+class BDDGeoBase {
+  public:
+    BDDGeoBase() = default;
+    virtual ~BDDGeoBase() = default;
+    BDDGeoBase(const BDDGeoBase&) = delete;
+    BDDGeoBase& operator=(const BDDGeoBase&) = delete;
+
+    /// Both answer the element, now the list's.
+    virtual EltGeo* AjouteDebut(std::unique_ptr<EltGeo> elt);
+    virtual EltGeo* AjouteFin(std::unique_ptr<EltGeo> elt);
+
+    /// Destroys all elements.
+    virtual void Vide();
+
+    /// Paints the visible elements from head to tail.
+    void Dessine(Trace& trace) const;
+
+    /// Reads a drawing's text and appends its elements. What could be read before a fault stays.
+    void Charge(Lecteur& entree);
+
+    /// Replaces the content by that of the text.
+    void ChargeTexte(std::string_view texte);
+
+    /// Writes the drawing's text; it is not modified any more.
+    void Sauve(Ecrivain& sortie);
+    std::string SauveTexte();
+
+    /// Whether the element's layer is displayed.
+    bool EstVisible(const EltGeo& elt) const;
+
+    int CalqueAffiche() const { return CalqueAffiche_; }
+
+    /// The only layer to display, -1 for all.
+    void SetCalqueAffiche(int calque) { CalqueAffiche_ = calque; }
+
+    Liste<EltGeo> Elements{true};
+    bool Modifie = false;    ///< The content differs from its file.
+    bool AfficheBDD = true;  ///< Whether groups are painted.
+
+  protected:
+    /// Reads a drawing's text behind what is there; says so to the user, once, when a version in it
+    /// is not one that can be read.
+    void LitTexte(std::string_view texte);
+
+  private:
+    void ChargeFils(Lecteur& entree);
+    void SauveFils(Ecrivain& sortie) const;
+
+    int CalqueAffiche_ = -1;
+};

@@ -1,0 +1,111 @@
+#include "model/echelle.h"
+
+#include <algorithm>
+#include <cmath>
+
+Echelle EchelleCourante;
+
+namespace {
+
+/// Beyond these a scale or a coordinate would no longer be finite in what follows from it.
+constexpr double FacteurMax = 1e150;
+constexpr double FacteurMin = 1e-150;
+constexpr double OrigineMax = 1e150;
+
+}  // namespace
+
+Echelle::Echelle() : EltGeo(TypeEchelle) {
+    SetFacteur(1.0);
+}
+
+void Echelle::SetFacteur(double facteur) {
+    if (!(facteur >= FacteurMin && facteur <= FacteurMax)) return;
+    Facteur = facteur;
+    Epsilon = 1e-6 / Facteur;
+    Proche10 = 10.0 / Facteur;
+}
+
+void Echelle::SetCentre(int largeur, int hauteur) {
+    Centre_ = PointVek(largeur / 2, hauteur / 2);
+}
+
+PointVek Echelle::VersEcran(const PointVek& p) const {
+    PointVek q = p;
+    if (Agrandissement != 1.0) q = q * Agrandissement;
+    if (Rotation != 0.0) q.Tourne(Rotation);
+    return {(q.x - Origine.x) * Facteur + Centre_.x, (Origine.y - q.y) * Facteur + Centre_.y};
+}
+
+PointVek Echelle::VersDessin(const PointVek& pixel) const {
+    return {(pixel.x - Centre_.x) / Facteur + Origine.x,
+            (Centre_.y - pixel.y) / Facteur + Origine.y};
+}
+
+void Echelle::ZoomPlus() {
+    SetFacteur(Facteur + Facteur);
+}
+
+void Echelle::ZoomMoins() {
+    if (Facteur > 1e-6) SetFacteur(Facteur * 0.5);
+}
+
+void Echelle::ZoomInit() {
+    Origine = PointVek();
+    SetFacteur(1.0);
+}
+
+void Echelle::ZoomPlusEn(const PointVek& p) {
+    Origine = p;
+    ZoomPlus();
+}
+
+void Echelle::ZoomMoinsEn(const PointVek& p) {
+    Origine = p;
+    ZoomMoins();
+}
+
+void Echelle::ZoomRectangle(const PointVek& a, const PointVek& b, int largeur) {
+    Origine = (a + b) / 2.0;
+    const double cote = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
+    if (cote > 1e-6) SetFacteur(largeur / cote);
+}
+
+void Echelle::Haut() {
+    Origine.y = std::min(Origine.y + Proche10, OrigineMax);
+}
+
+void Echelle::Bas() {
+    Origine.y = std::max(Origine.y - Proche10, -OrigineMax);
+}
+
+void Echelle::Droite() {
+    Origine.x = std::min(Origine.x + Proche10, OrigineMax);
+}
+
+void Echelle::Gauche() {
+    Origine.x = std::max(Origine.x - Proche10, -OrigineMax);
+}
+
+namespace vue {
+
+double Epsilon() {
+    return EchelleCourante.Epsilon;
+}
+
+double Proche10() {
+    return EchelleCourante.Proche10;
+}
+
+PointVek VersEcran(const PointVek& p) {
+    return EchelleCourante.VersEcran(p);
+}
+
+double LongueurEcran(double longueur) {
+    return longueur * EchelleCourante.Facteur * EchelleCourante.Agrandissement;
+}
+
+double Rotation() {
+    return EchelleCourante.Rotation;
+}
+
+}  // namespace vue

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "elements/eltgeo.h"
+#include "elements/vue.h"
+
+/// The view: the mapping between drawing units (y upward) and pixels of the area (y downward), with
+/// the tolerances that follow from its scale. One for the program, never in a drawing's list. Its
+/// operations repaint nothing.
+class Echelle : public EltGeo {
+  public:
+    Echelle();
+
+    /// Takes the middle of an area of largeur by hauteur pixels, by whole halves.
+    void SetCentre(int largeur, int hauteur);
+
+    PointVek VersEcran(const PointVek& p) const;
+
+    /// Pixels, as doubles, to drawing units.
+    PointVek VersDessin(const PointVek& pixel) const;
+
+    void ZoomPlus();
+    void ZoomMoins();
+    void ZoomInit();
+    void ZoomPlusEn(const PointVek& p);
+    void ZoomMoinsEn(const PointVek& p);
+
+    /// Shows the rectangle a b: its larger side takes the width of the area (pixels), whose height
+    /// plays no part: that is meant. A null rectangle only recentres.
+    void ZoomRectangle(const PointVek& a, const PointVek& b, int largeur);
+
+    // Pans by ten pixels.
+    void Haut();
+    void Bas();
+    void Droite();
+    void Gauche();
+
+    PointVek Origine;             ///< Drawing point shown at the centre of the area.
+    double Facteur = 1.0;         ///< S: pixels per drawing unit.
+    double Rotation = 0.0;        ///< Radians; not 0 only while the content of an image is painted.
+    double Agrandissement = 1.0;  ///< The matching factor.
+    double Epsilon;
+    double Proche10;
+
+  private:
+    /// Takes the scale where it is one that can be worked with.
+    void SetFacteur(double facteur);
+
+    PointVek Centre_;  ///< Centre of the area, in pixels.
+};
+
+extern Echelle EchelleCourante;

@@ -1,0 +1,109 @@
+#include "model/fichier.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// An open file descriptor, closed with its owner.
+class Descripteur {
+  public:
+    explicit Descripteur(int numero) : Numero(numero) {}
+    ~Descripteur() { Ferme(); }
+    Descripteur(const Descripteur&) = delete;
+    Descripteur& operator=(const Descripteur&) = delete;
+
+    bool Ouvert() const { return Numero >= 0; }
+    int operator*() const { return Numero; }
+
+    bool Ferme() {
+        const int numero = std::exchange(Numero, -1);
+        return numero < 0 || close(numero) == 0;
+    }
+
+  private:
+    int Numero;
+};
+
+bool EcritTout(int numero, std::string_view contenu) {
+    while (!contenu.empty()) {
+        const ssize_t ecrit = write(numero, contenu.data(), contenu.size());
+        if (ecrit < 0 && errno == EINTR) continue;
+        if (ecrit <= 0) return false;
+        contenu.remove_prefix(static_cast<std::size_t>(ecrit));
+    }
+    return true;
+}
+
+bool EcritEtFerme(Descripteur& fichier, std::string_view contenu) {
+    return EcritTout(*fichier, contenu) && fsync(*fichier) == 0 && fichier.Ferme();
+}
+
+bool EcritSurPlace(const std::string& chemin, std::string_view contenu) {
+    Descripteur fichier(open(chemin.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    return fichier.Ouvert() && EcritTout(*fichier, contenu) && fichier.Ferme();
+}
+
+/// What renaming over the file would lose: it is a link, or other names lead to it, or it may not be
+/// written.
+bool RenommageInterdit(const std::string& chemin, const struct stat& ancien) {
+    return !S_ISREG(ancien.st_mode) || ancien.st_nlink > 1 || access(chemin.c_str(), W_OK) != 0;
+}
+
+enum class Issue { Ecrit, Echec, Impossible };
+
+Issue EcritACote(const std::string& chemin, std::string_view contenu) {
+    struct stat ancien = {};
+    const bool existe = lstat(chemin.c_str(), &ancien) == 0;
+    if (existe && RenommageInterdit(chemin, ancien)) return Issue::Impossible;
+
+    const std::string modele = chemin + ".XXXXXX";
+    std::vector<char> provisoire(modele.c_str(), modele.c_str() + modele.size() + 1);
+    Descripteur fichier(mkstemp(provisoire.data()));
+    if (!fichier.Ouvert()) return Issue::Impossible;
+    const mode_t masque = umask(0);
+    umask(masque);
+    const mode_t droits = existe ? ancien.st_mode & 07777 : 0666 & ~masque;
+    const bool memeProprietaire =
+        !existe || (ancien.st_uid == geteuid() && ancien.st_gid == getegid()) ||
+        fchown(*fichier, ancien.st_uid, ancien.st_gid) == 0;
+    if (!memeProprietaire) {
+        unlink(provisoire.data());
+        return Issue::Impossible;
+    }
+    const bool bon = fchmod(*fichier, droits) == 0 && EcritEtFerme(fichier, contenu) &&
+                     std::rename(provisoire.data(), chemin.c_str()) == 0;
+    if (!bon) unlink(provisoire.data());
+    return bon ? Issue::Ecrit : Issue::Echec;
+}
+
+}  // namespace
+
+bool LitFichier(const std::string& chemin, std::string& contenu) {
+    // Without blocking, or a pipe that nobody feeds would never open.
+    Descripteur fichier(open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat etat = {};
+    if (!fichier.Ouvert() || fstat(*fichier, &etat) != 0 || !S_ISREG(etat.st_mode)) return false;
+    contenu.resize(static_cast<std::size_t>(etat.st_size));
+    std::size_t lu = 0;
+    while (lu < contenu.size()) {
+        const ssize_t n = read(*fichier, contenu.data() + lu, contenu.size() - lu);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        lu += static_cast<std::size_t>(n);
+    }
+    contenu.resize(lu);
+    return true;
+}
+
+bool EcritFichier(const std::string& chemin, std::string_view contenu) {
+    const Issue issue = EcritACote(chemin, contenu);
+    if (issue == Issue::Impossible) return EcritSurPlace(chemin, contenu);
+    return issue == Issue::Ecrit;
+}

@@ -1,0 +1,17 @@
+#include "model/messageversion.h"
+
+#include <gtkmm/messagedialog.h>
+
+#include "model/encodage.h"
+
+void MessageVersion(const std::string& mot) {
+    constexpr std::size_t lisible = 60;
+    Glib::ustring recu = EnUtf8(mot);
+    if (recu.size() > lisible) recu = recu.substr(0, lisible) + "…";
+    // The text names 3.2, although the present version is 3.3: that is meant.
+    Gtk::MessageDialog message(
+        "Version du fichier incompatible.\n Contacter l'editeur.\nVersion3.2 attendue \n" + recu +
+            " reçue",
+        false, Gtk::MESSAGE_INFO, Gtk::BUTTONS_OK, true);
+    message.run();
+}

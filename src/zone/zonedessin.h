@@ -1,0 +1,150 @@
+#pragma once
+
+#include <gtkmm/actiongroup.h>
+#include <gtkmm/drawingarea.h>
+#include <gtkmm/label.h>
+#include <gtkmm/menu.h>
+#include <gtkmm/uimanager.h>
+
+#include <memory>
+#include <string>
+
+#include "elements/trait.h"
+#include "model/grille.h"
+#include "zone/accrochage.h"
+#include "zone/prototypes.h"
+#include "zone/surimpression.h"
+
+struct LigneEtat;
+
+/// The drawing area: it shows the drawing through the view, and turns clicks, motions and keys into
+/// tools. What a tool does state by state stands in the rows under `outils/`; this class is the
+/// engine that all rows share, and holds what they work with.
+class ZoneDessin : public Gtk::DrawingArea {
+  public:
+    ZoneDessin();
+    ~ZoneDessin() override;
+
+    /// The labels that follow the pointer and the tool; not owned, to outlive the area.
+    void MetLabels(Gtk::Label* x, Gtk::Label* y, Gtk::Label* action);
+
+    // Tools.
+
+    /// Enters a tool by its first state, after what it asks.
+    void Entre(int etat);
+
+    /// No tool is in force.
+    void RazEtat();
+    int EtatCourant() const { return Etat; }
+
+    /// Shows the prompt and the cursor of the state.
+    void AfficheEtat();
+
+    // Keys come through the window, each once.
+
+    bool ToucheEnfoncee(const GdkEventKey* evenement);
+    void ToucheRelachee();
+
+    // File commands.
+
+    void OuvreZone(const std::string& nom);
+    void Nouveau();
+
+    // Commands of the menus.
+
+    void AnnuleAction();
+    void AnnuleSelection();
+    void ZoneTrait();
+    void ZoomPlusAction();
+    void ZoomMoinsAction();
+    void ZoomInitAction();
+    void ChangeGrille();
+    void GrillePlus();
+    void GrilleMoins();
+    void SetPasGrille(double pas);
+    double PasGrille() const { return GrilleCourante.Pas; }
+    void SetCouleurGrille(const Gdk::Color& couleur);
+    const Grille& GrilleDuMoment() const { return GrilleCourante; }
+    void ChangeAfficheBDD();
+
+    /// Toggles one of the snap options.
+    void Bascule(bool OptionsAccrochage::*option);
+    const OptionsAccrochage& Accrochage() const { return Options; }
+
+    void SetFond(const Gdk::Color& couleur);
+    const Gdk::Color& Fond() const { return CouleurFond; }
+    void SetTrait(const ::Trait& trait);
+    const ::Trait& Trait() const { return TraitCourant; }
+    void SetCalque(int calque);
+    int Calque() const { return CalqueCourant; }
+
+    /// Asks for a repaint of the whole area.
+    void Redessine();
+
+    // What the rows of the tools work with.
+
+    /// Adds a copy of the prototype to the drawing.
+    void Ajoute(const EltGeo& prototype);
+
+    /// Repaints after a change of the view: the pointer's position follows from its pixel.
+    void VueChangee();
+
+    /// Size of the area in pixels.
+    int Largeur() const;
+    int Hauteur() const;
+
+    Prototypes Protos;
+    EltRectangle RectangleSelection;  ///< The zone selection, in a style of its own.
+    bool SelectionVisible = false;
+    EltGeo* EltCourant = nullptr;          ///< Found by the last pick; the drawing's.
+    EltGeo* EltCopie = nullptr;            ///< The second element of a tool; the drawing's.
+    std::unique_ptr<EltGeo> EltDeforme;    ///< The copy that a drag deforms.
+    PointVek PointDepart;                  ///< Reference point of a drag, or first point of an arc.
+    PointVek PointPrecedent;               ///< Second point of an arc.
+    double Rayon = 10.0;                   ///< Radius asked for last.
+    unsigned Touche = 0;                   ///< Key held, 0 after any release.
+
+  protected:
+    bool on_expose_event(GdkEventExpose* evenement) override;
+    bool on_configure_event(GdkEventConfigure* evenement) override;
+    bool on_button_press_event(GdkEventButton* evenement) override;
+    bool on_motion_notify_event(GdkEventMotion* evenement) override;
+    bool on_leave_notify_event(GdkEventCrossing* evenement) override;
+    bool on_scroll_event(GdkEventScroll* evenement) override;
+
+  private:
+    void MetEtat(int etat);
+    void SuitPointeur(const PointVek& pixel);
+    void AfficheCoordonnees();
+    void MontreApercu();
+    void MontrePoignees();
+    void MajRepere();
+    PointVek PositionClic(const PointVek& pixel) const;
+    void Clique(const PointVek& p);
+    void LaisseElement(EltGeo* elt);
+    void FinProfil();
+
+    void ConstruitPopup();
+    void SupPopup();
+    void AvantPopup();
+    void ArrierePopup();
+
+    int Etat = 0;
+    PointVek PixelSouris;  ///< Last pixel of the pointer.
+    PointVek PointSouris;  ///< The same in drawing units.
+    Surimpression Calques;
+    bool RepereVisible = false;
+    PointVek Repere;  ///< The special point that a click would take, while it is shown.
+    OptionsAccrochage Options;
+    Grille GrilleCourante;
+    ::Trait TraitCourant;
+    int CalqueCourant = 0;
+    Gdk::Color CouleurFond;
+
+    Gtk::Label* LabelX = nullptr;
+    Gtk::Label* LabelY = nullptr;
+    Gtk::Label* LabelAction = nullptr;
+    Glib::RefPtr<Gtk::UIManager> GestionnairePopup;
+    Glib::RefPtr<Gtk::ActionGroup> ActionsPopup;
+    Gtk::Menu* MenuPopup = nullptr;
+};
