@@ -14,6 +14,10 @@ bool EstArc(const EltGeo& elt) {
     return elt.Type == TypeArc;
 }
 
+bool SeLitCommeSegment(const EltGeo& elt) {
+    return EstDroit(elt) || elt.Type == TypeRectangle;
+}
+
 int Intersecte(const EltGeo& e1, const EltGeo& e2, PointVek& a, PointVek& b) {
     if (EstDroit(e1) && EstDroit(e2)) {
         const auto& s1 = static_cast<const EltSegment&>(e1);

@@ -9,6 +9,10 @@ class EltSegment;
 bool EstDroit(const EltGeo& elt);
 bool EstArc(const EltGeo& elt);
 
+/// Segments and lines, and rectangles too, which are then read as the segment between their
+/// corners: a line drawn with the mouse carries their code.
+bool SeLitCommeSegment(const EltGeo& elt);
+
 /// Crossings of two segments, lines or arcs taken as endless lines and full circles: 0, 1 or 2
 /// points in a and b. A line and a circle, or two circles, give 2, equal where they touch. Any other
 /// type gives 0.

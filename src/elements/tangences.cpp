@@ -67,12 +67,6 @@ PointVek PlusProcheDes2(const PointVek& p, const PointVek& a, const PointVek& b)
     return Distance(p, b) <= Distance(p, a) ? b : a;
 }
 
-/// Segments and lines, and rectangles too, which are then read as the segment between their
-/// corners: a line drawn with the mouse carries their code.
-bool SeLitCommeSegment(const EltGeo& elt) {
-    return EstDroit(elt) || elt.Type == TypeRectangle;
-}
-
 }  // namespace
 
 void EltArc::TangentPoint(const EltGeo& elt, const PointVek& p) {

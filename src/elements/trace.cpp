@@ -180,7 +180,7 @@ void Trace::Droite(const PointVek& p, const PointVek& d) {
 }
 
 void Trace::Arc(ArcEcran arc, bool plein) {
-    if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon)) return;
+    if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon) || arc.Rayon < 0.0) return;
     arc.Debut = std::fmod(arc.Debut, DeuxPi);
     arc.Ouverture = std::clamp(arc.Ouverture, -DeuxPi, DeuxPi);
     const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);

@@ -7,6 +7,7 @@
 #include <gtkmm/uimanager.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "elements/trait.h"
@@ -86,6 +87,15 @@ class ZoneDessin : public Gtk::DrawingArea {
     /// Adds a copy of the prototype to the drawing.
     void Ajoute(const EltGeo& prototype);
 
+    /// Takes what a pick found as the tool's first element; false when it found nothing.
+    bool Prend(EltGeo* trouve);
+
+    /// The same as the second one; false too when it is the first one again.
+    bool PrendSecond(EltGeo* trouve);
+
+    /// Asks for `Rayon`; false when the user gives up.
+    bool DemandeRayon();
+
     /// Repaints after a change of the view: the pointer's position follows from its pixel.
     void VueChangee();
 
@@ -109,18 +119,28 @@ class ZoneDessin : public Gtk::DrawingArea {
     bool on_configure_event(GdkEventConfigure* evenement) override;
     bool on_button_press_event(GdkEventButton* evenement) override;
     bool on_motion_notify_event(GdkEventMotion* evenement) override;
-    bool on_leave_notify_event(GdkEventCrossing* evenement) override;
     bool on_scroll_event(GdkEventScroll* evenement) override;
 
   private:
     void MetEtat(int etat);
+
+    /// Notes where the pointer is, in pixels and drawing units, and shows it.
     void SuitPointeur(const PointVek& pixel);
-    void AfficheCoordonnees();
     void MontreApercu();
     void MontrePoignees();
+
+    /// Repaints after a command that acts on the drawing outside the tool in force.
+    void DessinChange();
+
+    /// Moves the snap marker to what the pointer is near to.
     void MajRepere();
+    void CacheRepere();
+
+    /// Where a click at the pixel acts: snapped by the grid, or taken by the snap marker.
     PointVek PositionClic(const PointVek& pixel) const;
     void Clique(const PointVek& p);
+
+    /// Lets go of an element that leaves the drawing, of all with null.
     void LaisseElement(EltGeo* elt);
     void FinProfil();
 
@@ -132,9 +152,8 @@ class ZoneDessin : public Gtk::DrawingArea {
     int Etat = 0;
     PointVek PixelSouris;  ///< Last pixel of the pointer.
     PointVek PointSouris;  ///< The same in drawing units.
-    Surimpression Calques;
-    bool RepereVisible = false;
-    PointVek Repere;  ///< The special point that a click would take, while it is shown.
+    Surimpression Dessus;
+    std::optional<PointVek> Repere;  ///< The special point that a click would take, while shown.
     OptionsAccrochage Options;
     Grille GrilleCourante;
     ::Trait TraitCourant;

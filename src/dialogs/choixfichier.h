@@ -1,0 +1,25 @@
+#pragma once
+
+#include <gtkmm/window.h>
+
+#include <string>
+
+/// What a question for a file says. `Extension` begins with a point.
+struct GenreFichier {
+    const char* Titre;
+    const char* Filtre;
+    const char* Extension;
+};
+
+// File names are absolute and in the encoding of file names. A question starts in the folder of the
+// file `voisin`, where that has a name.
+
+/// Asks for a file to read; empty when the user gives up.
+std::string ChoisitLecture(Gtk::Window& parente, const GenreFichier& genre,
+                           const std::string& voisin);
+
+/// Asks for a file to write, and again until an existing one may be replaced. The answer is
+/// `Gtk::RESPONSE_OK`, with the name, its extension ensured, in `nom`; `Gtk::RESPONSE_NO` from the
+/// further button that `refus` asks for; anything else when the user gives up.
+int ChoisitEcriture(Gtk::Window& parente, const GenreFichier& genre, const std::string& voisin,
+                    std::string& nom, bool refus = false);

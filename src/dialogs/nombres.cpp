@@ -1,0 +1,40 @@
+#include "dialogs/nombres.h"
+
+#include <glib.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+Glib::ustring TexteNombre(double valeur) {
+    // A double this large has no decimals left to round, and would be a long row of digits.
+    constexpr double limite = 1e15;
+    // Sixteen digits before the point at most, three behind it.
+    char texte[32];
+    std::to_chars_result fin = {};
+    if (std::abs(valeur) < limite) {
+        // The sum turns -0 into 0.
+        const double arrondi = std::round(valeur * 1000.0) / 1000.0 + 0.0;
+        fin = std::to_chars(texte, texte + sizeof texte, arrondi, std::chars_format::fixed);
+    } else {
+        fin = std::to_chars(texte, texte + sizeof texte, valeur, std::chars_format::scientific);
+    }
+    return std::string(texte, fin.ptr);
+}
+
+std::optional<double> LitNombre(const Glib::ustring& texte) {
+    std::string nombre = texte.raw();
+    std::replace(nombre.begin(), nombre.end(), ',', '.');
+    // The function of the C library: its C++ cover throws on 1e400.
+    const double valeur = g_ascii_strtod(nombre.c_str(), nullptr);
+    if (!std::isfinite(valeur)) return std::nullopt;
+    return valeur;
+}
+
+int EnEntier(double valeur) {
+    constexpr double mini = std::numeric_limits<int>::min();
+    constexpr double maxi = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::round(valeur), mini, maxi));
+}

@@ -1,0 +1,12 @@
+#include "dialogs/reeldialog.h"
+
+#include "dialogs/nombres.h"
+
+ReelDialog::ReelDialog(const Glib::ustring& titre, double* valeur)
+    : SaisieDialog(titre), Valeur(valeur), Champ(TexteNombre(*valeur)) {
+    AjouteLigne(Champ);
+}
+
+void ReelDialog::Prend() {
+    if (const auto nombre = Champ.Nombre()) *Valeur = *nombre;
+}

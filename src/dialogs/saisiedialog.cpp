@@ -1,0 +1,63 @@
+#include "dialogs/saisiedialog.h"
+
+#include <gtkmm/box.h>
+
+#include <algorithm>
+
+#include "dialogs/nombres.h"
+
+namespace {
+
+/// The window that a new dialog belongs over: the active one; where the window manager tells of
+/// none, the newest modal one, else the oldest. Null when no window is shown.
+Gtk::Window* FenetreParente() {
+    Gtk::Window* modale = nullptr;
+    Gtk::Window* ancienne = nullptr;
+    // The newest come first.
+    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+        if (!fenetre->is_visible() || fenetre->get_window_type() != Gtk::WINDOW_TOPLEVEL) continue;
+        if (fenetre->property_is_active()) return fenetre;
+        if (!modale && fenetre->get_modal()) modale = fenetre;
+        ancienne = fenetre;
+    }
+    return modale ? modale : ancienne;
+}
+
+}  // namespace
+
+ChampSaisie::ChampSaisie(const Glib::ustring& texte) {
+    set_max_length(50);
+    set_text(texte);
+    select_region(0, -1);
+    signal_changed().connect([this] { Modifie = true; });
+}
+
+std::optional<double> ChampSaisie::Nombre() const {
+    return Modifie ? LitNombre(get_text()) : std::nullopt;
+}
+
+SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true) {
+    if (Gtk::Window* parente = FenetreParente()) set_transient_for(*parente);
+    set_border_width(6);
+    get_vbox()->set_spacing(8);
+    add_button("Valider", Gtk::RESPONSE_OK);
+    add_button("Annuler", Gtk::RESPONSE_CANCEL);
+    set_default_response(Gtk::RESPONSE_OK);
+}
+
+void SaisieDialog::Branche(ChampSaisie& champ) {
+    champ.signal_activate().connect([this] { response(Gtk::RESPONSE_OK); });
+}
+
+void SaisieDialog::AjouteLigne(ChampSaisie& champ) {
+    // The title is the question: the title bar has to hold it beside its buttons.
+    champ.set_width_chars(std::max<int>(24, static_cast<int>(get_title().length()) + 8));
+    Branche(champ);
+    get_vbox()->pack_start(champ, Gtk::PACK_SHRINK);
+    champ.show();
+}
+
+void SaisieDialog::on_response(int reponse) {
+    if (reponse == Gtk::RESPONSE_OK) Prend();
+    Gtk::Dialog::on_response(reponse);
+}

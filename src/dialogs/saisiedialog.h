@@ -1,0 +1,39 @@
+#pragma once
+
+#include <gtkmm/dialog.h>
+#include <gtkmm/entry.h>
+
+#include <optional>
+
+/// A text field that knows whether the user edited it.
+class ChampSaisie : public Gtk::Entry {
+  public:
+    explicit ChampSaisie(const Glib::ustring& texte);
+
+    bool EstModifie() const { return Modifie; }
+
+    /// The number typed; nothing when the field was not edited or the number is not finite.
+    std::optional<double> Nombre() const;
+
+  private:
+    bool Modifie = false;
+};
+
+/// A question in a few fields, with the buttons "Valider" and "Annuler", over the window that the
+/// user is at. Built on the stack, run by `run`; the values go back to the caller on "Valider" or
+/// the Enter key only.
+class SaisieDialog : public Gtk::Dialog {
+  protected:
+    explicit SaisieDialog(const Glib::ustring& titre);
+
+    /// The Enter key in the field validates.
+    void Branche(ChampSaisie& champ);
+
+    /// Shows the field on a line of its own, as wide as the title needs.
+    void AjouteLigne(ChampSaisie& champ);
+
+    /// Gives the caller what was entered.
+    virtual void Prend() = 0;
+
+    void on_response(int reponse) override;
+};

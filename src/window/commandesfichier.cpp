@@ -1,0 +1,117 @@
+// New, open, save, and the questions about work that is not saved.
+
+#include <glibmm/convert.h>
+#include <glibmm/fileutils.h>
+#include <gtkmm/messagedialog.h>
+#include <gtkmm/stock.h>
+
+#include "dialogs/choixfichier.h"
+#include "model/bddgeo.h"
+#include "window/dessinwindow.h"
+
+namespace {
+
+constexpr GenreFichier Lecture = {"Choisir le fichier à ouvrir", "Fichier Dessin", ".vek"};
+constexpr GenreFichier Ecriture = {"Choisir le nom du fichier à enregistrer", "Fichier Dessin",
+                                   ".vek"};
+
+Glib::ustring QuestionEnregistrer() {
+    return "Enregistrer le fichier " + Glib::filename_display_name(BddCourante.NomFichier) + " ?";
+}
+
+bool EstFichier(const std::string& nom) {
+    return Glib::file_test(nom, Glib::FILE_TEST_IS_REGULAR);
+}
+
+/// The existing file that an entry of the recent files means; empty when there is none. Entries
+/// that are a plain path behind the scheme are understood too.
+std::string FichierRecent(const std::string& uri) {
+    try {
+        const std::string nom = Glib::filename_from_uri(uri);
+        if (EstFichier(nom)) return nom;
+    } catch (const Glib::ConvertError&) {
+        // Not a proper address; it may still be the plain path.
+    }
+    const std::string schema = "file:///";
+    if (uri.compare(0, schema.size(), schema) != 0) return {};
+    const std::string chemin = uri.substr(schema.size());
+    for (const std::string& nom : {chemin, "/" + chemin})
+        if (EstFichier(nom)) return nom;
+    return {};
+}
+
+}  // namespace
+
+void DessinWindow::New() {
+    if (BddCourante.Modifie) DemandeEnregistrement();
+    Zone.Nouveau();
+    MetTitre();
+}
+
+void DessinWindow::Open() {
+    if (BddCourante.Modifie) DemandeEnregistrement();
+    const std::string nom = ChoisitLecture(*this, Lecture, BddCourante.NomFichier);
+    if (nom.empty()) return;
+    Zone.OuvreZone(nom);
+    MetTitre();
+}
+
+void DessinWindow::RecentFiles() {
+    const std::string nom = FichierRecent(ActionRecents->get_current_uri());
+    if (nom.empty()) return;
+    Zone.OuvreZone(nom);
+    MetTitre();
+}
+
+void DessinWindow::Save() {
+    if (BddCourante.Modifie) {
+        if (BddCourante.Nomme)
+            BddCourante.Enregistre();
+        else
+            SaveAs();
+    }
+    MetTitre();
+}
+
+void DessinWindow::SaveAs() {
+    std::string nom;
+    if (ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom) != Gtk::RESPONSE_OK) return;
+    BddCourante.EnregistreSous(nom);
+    MetTitre();
+}
+
+void DessinWindow::DemandeEnregistrement() {
+    const bool nomme = BddCourante.Nomme;
+    Gtk::MessageDialog question(
+        *this, nomme ? QuestionEnregistrer() : Glib::ustring("Enregistrer votre travail ?"), false,
+        Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_OK_CANCEL, true);
+    if (question.run() != Gtk::RESPONSE_OK) return;
+    question.hide();
+    if (nomme)
+        Save();
+    else
+        SaveAs();
+}
+
+bool DessinWindow::ConfirmeFermeture() {
+    if (!BddCourante.Modifie) return true;
+    std::string nom = BddCourante.NomFichier;
+    int reponse = Gtk::RESPONSE_NONE;
+    if (BddCourante.Nomme) {
+        Gtk::MessageDialog question(*this, QuestionEnregistrer(), false, Gtk::MESSAGE_QUESTION,
+                                    Gtk::BUTTONS_OK_CANCEL, true);
+        question.add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
+        reponse = question.run();
+    } else {
+        reponse = ChoisitEcriture(*this, Ecriture, nom, nom, true);
+    }
+    if (reponse == Gtk::RESPONSE_OK) {
+        BddCourante.EnregistreSous(nom);
+        MetTitre();
+    }
+    return reponse == Gtk::RESPONSE_OK || reponse == Gtk::RESPONSE_NO;
+}
+
+void DessinWindow::Quit() {
+    if (ConfirmeFermeture()) hide();
+}

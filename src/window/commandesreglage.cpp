@@ -1,0 +1,52 @@
+// The layers, and the settings that a dialog asks for.
+
+#include "dialogs/demandecouleur.h"
+#include "dialogs/intdialog.h"
+#include "dialogs/reeldialog.h"
+#include "dialogs/traitdialog.h"
+#include "model/bddgeo.h"
+#include "window/dessinwindow.h"
+
+void DessinWindow::CalqueCourant() {
+    int calque = Zone.Calque();
+    IntDialog dialogue("Numéro du calque courant", &calque);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
+    Zone.SetCalque(calque);
+    AfficheCalques();
+}
+
+void DessinWindow::CalquesAfficher() {
+    int calque = BddCourante.CalqueAffiche();
+    IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
+    BddCourante.SetCalqueAffiche(calque);
+    AfficheCalques();
+    Zone.Redessine();
+}
+
+void DessinWindow::GrillePas() {
+    double pas = Zone.PasGrille();
+    ReelDialog dialogue("Entrer le pas de la grille", &pas);
+    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.SetPasGrille(pas);
+}
+
+void DessinWindow::GrilleCouleur() {
+    Gdk::Color couleur = Zone.GrilleDuMoment().Style.Couleur;
+    if (DemandeCouleur(this, "Couleur de la Grille", couleur)) Zone.SetCouleurGrille(couleur);
+}
+
+void DessinWindow::CouleurFond() {
+    Gdk::Color couleur = Zone.Fond();
+    if (DemandeCouleur(this, "Couleur du fond d'écran", couleur)) Zone.SetFond(couleur);
+}
+
+void DessinWindow::Couleur() {
+    ::Trait trait = Zone.Trait();
+    if (DemandeCouleur(this, "Couleur", trait.Couleur)) Zone.SetTrait(trait);
+}
+
+void DessinWindow::Trait() {
+    ::Trait trait = Zone.Trait();
+    TraitDialog dialogue("Style du trait courant", &trait);
+    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.SetTrait(trait);
+}

@@ -1,0 +1,155 @@
+#include "window/dessinwindow.h"
+
+#include <glibmm/convert.h>
+#include <glibmm/miscutils.h>
+#include <glibmm/stringutils.h>
+#include <gtkmm/icontheme.h>
+
+#include <algorithm>
+
+#include "model/bddgeo.h"
+#include "window/donnees.h"
+
+namespace {
+
+/// What is left of a margin of the status row, in pixels, where there is no room.
+constexpr int MargeMin = 4;
+
+/// A long prompt: margins shrink before one like it is cut.
+constexpr char InviteLongue[] = "Nouvelle position, appuyer sur Ctrl pour faire une copie";
+
+}  // namespace
+
+DessinWindow::DessinWindow()
+    : LabelX("XXXX"),
+      LabelY("YYYY"),
+      LabelAction("Action demandée"),
+      LabelCalques("Calques"),
+      LabelTravail("Travail"),
+      LabelAffiche("Affiché") {
+    set_border_width(5);
+    set_size_request(800, 600);
+    maximize();
+    add(BoiteVerticale);
+    BoiteVerticale.pack_start(BoiteMenu, Gtk::PACK_SHRINK);
+    Zone.MetLabels(&LabelX, &LabelY, &LabelAction);
+    RangeEtat();
+    BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
+    AfficheCalques();
+    BoiteVerticale.pack_start(Zone, Gtk::PACK_EXPAND_WIDGET);
+    Zone.set_size_request(-1, -1);
+    modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));
+
+    Fenetre3D.set_title("KR VEK 3D");
+    Fenetre3D.set_default_size(800, 600);
+    Fenetre3D.signal_delete_event().connect([this](GdkEventAny*) {
+        Fenetre3D.hide();
+        return true;
+    });
+
+    Gtk::IconTheme::get_default()->append_search_path(
+        Glib::build_filename(DossierDonnees(), "icons"));
+    ConstruitActions();
+    ConstruitMenus();
+    show_all_children(true);
+}
+
+DessinWindow::~DessinWindow() {
+    // The labels go before the area.
+    Zone.MetLabels(nullptr, nullptr, nullptr);
+}
+
+std::array<DessinWindow::LibelleEtat, 6> DessinWindow::LibellesEtat() {
+    return {{{&LabelX, 100},
+             {&LabelY, 100},
+             {&LabelTravail, 20},
+             {&LabelAffiche, 20},
+             {&LabelCalques, 20},
+             {&LabelAction, 200}}};
+}
+
+void DessinWindow::RangeEtat() {
+    for (Gtk::Label* coordonnee : {&LabelX, &LabelY}) {
+        // One width whatever the number, or the row would dance under the pointer.
+        coordonnee->set_width_chars(13);
+        coordonnee->set_ellipsize(Pango::ELLIPSIZE_END);
+        coordonnee->set_alignment(Gtk::ALIGN_LEFT);
+        BoiteEtat.pack_start(*coordonnee, Gtk::PACK_SHRINK, MargeMin);
+    }
+    for (Gtk::Label* calque : {&LabelTravail, &LabelAffiche, &LabelCalques})
+        BoiteEtat.pack_end(*calque, Gtk::PACK_SHRINK, MargeMin);
+    LabelAction.set_ellipsize(Pango::ELLIPSIZE_END);
+    LabelAction.set_alignment(Gtk::ALIGN_RIGHT);
+    BoiteEtat.pack_end(LabelAction, Gtk::PACK_EXPAND_WIDGET, MargeMin);
+    BoiteEtat.signal_size_allocate().connect(
+        [this](const Gtk::Allocation& place) { AjusteMarges(place); });
+}
+
+void DessinWindow::AjusteMarges(const Gtk::Allocation& place) {
+    // A change of the margins brings the same allocation once more.
+    if (place.get_width() == LargeurEtat) return;
+    LargeurEtat = place.get_width();
+
+    int invite = 0, hauteur = 0;
+    LabelAction.create_pango_layout(InviteLongue)->get_pixel_size(invite, hauteur);
+    int libre = LargeurEtat - invite, marges = 0;
+    for (const LibelleEtat& etat : LibellesEtat()) {
+        if (etat.Libelle != &LabelAction) libre -= etat.Libelle->size_request().width;
+        marges += 2 * etat.Marge;
+    }
+    const double part = std::clamp(static_cast<double>(libre) / marges, 0.0, 1.0);
+    for (const LibelleEtat& etat : LibellesEtat()) {
+        const bool coordonnee = etat.Libelle == &LabelX || etat.Libelle == &LabelY;
+        BoiteEtat.set_child_packing(
+            *etat.Libelle,
+            etat.Libelle == &LabelAction ? Gtk::PACK_EXPAND_WIDGET : Gtk::PACK_SHRINK,
+            std::max(MargeMin, static_cast<int>(etat.Marge * part)),
+            coordonnee ? Gtk::PACK_START : Gtk::PACK_END);
+    }
+}
+
+void DessinWindow::AfficheCalques() {
+    LabelTravail.set_text("Travail sur " + Glib::Ascii::dtostr(Zone.Calque()));
+    LabelAffiche.set_text("Affiché " + Glib::Ascii::dtostr(BddCourante.CalqueAffiche()));
+}
+
+void DessinWindow::OuvreFichier(const std::string& nom) {
+    BddCourante.Ouvre(nom);
+}
+
+void DessinWindow::MetTitre() {
+    set_title("KR VEK 1.3           " + Glib::filename_display_name(BddCourante.NomFichier));
+}
+
+bool DessinWindow::on_delete_event(GdkEventAny*) {
+    return !ConfirmeFermeture();
+}
+
+bool DessinWindow::on_key_press_event(GdkEventKey* evenement) {
+    // The accelerators of the menus come first.
+    const bool prise = Gtk::Window::on_key_press_event(evenement);
+    return Zone.ToucheEnfoncee(evenement) || prise;
+}
+
+bool DessinWindow::on_key_release_event(GdkEventKey* evenement) {
+    Gtk::Window::on_key_release_event(evenement);
+    Zone.ToucheRelachee();
+    return true;
+}
+
+bool DessinWindow::on_focus_out_event(GdkEventFocus* evenement) {
+    Zone.ToucheRelachee();
+    return Gtk::Window::on_focus_out_event(evenement);
+}
+
+void DessinWindow::BoiteAOutil() {
+    BarreOutils->set_visible(!BarreOutils->is_visible());
+}
+
+void DessinWindow::Etat() {
+    BoiteEtat.set_visible(!BoiteEtat.is_visible());
+}
+
+void DessinWindow::Vue3D() {
+    Fenetre3D.set_visible(!Fenetre3D.is_visible());
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <gtkmm/actiongroup.h>
+#include <gtkmm/box.h>
+#include <gtkmm/label.h>
+#include <gtkmm/recentaction.h>
+#include <gtkmm/uimanager.h>
+#include <gtkmm/window.h>
+
+#include <array>
+#include <string>
+
+#include "window/actions.h"
+#include "zone/zonedessin.h"
+
+/// The main window: menus and tool bar, the drawing area, the status row; and the commands that
+/// talk to the user in dialogs.
+class DessinWindow : public Gtk::Window {
+  public:
+    DessinWindow();
+    ~DessinWindow() override;
+
+    /// Reads a drawing before the window is shown; nothing else changes.
+    void OuvreFichier(const std::string& nom);
+
+    /// The program's name and the drawing's.
+    void MetTitre();
+
+    /// Asks whether to save, and saves; the command goes on whatever the answer.
+    void DemandeEnregistrement();
+
+    /// Asks whether to save a modified drawing, and saves. False: the window stays.
+    bool ConfirmeFermeture();
+
+    // The commands of the table of actions that are neither tools nor the area's.
+
+    void New();
+    void Open();
+    void RecentFiles();
+    void Save();
+    void SaveAs();
+    void Quit();
+    void CalqueCourant();
+    void CalquesAfficher();
+    void GrillePas();
+    void GrilleCouleur();
+    void Couleur();
+    void Trait();
+    void CouleurFond();
+    void BoiteAOutil();
+    void Etat();
+    void Vue3D();
+    void APropos();
+    void Aide();
+
+  protected:
+    bool on_delete_event(GdkEventAny* evenement) override;
+    bool on_key_press_event(GdkEventKey* evenement) override;
+    bool on_key_release_event(GdkEventKey* evenement) override;
+    bool on_focus_out_event(GdkEventFocus* evenement) override;
+
+  private:
+    /// A label of the status row and its margin in pixels where there is room.
+    struct LibelleEtat {
+        Gtk::Label* Libelle;
+        int Marge;
+    };
+
+    std::array<LibelleEtat, 6> LibellesEtat();
+    void RangeEtat();
+    void AjusteMarges(const Gtk::Allocation& place);
+    void AfficheCalques();
+
+    void ConstruitActions();
+    void AjouteAction(const LigneAction& ligne);
+    void AjouteRecents(const LigneAction& ligne);
+    Gtk::Action::SlotActivate Execution(const Effet& effet);
+    void ConstruitMenus();
+
+    ZoneDessin Zone;
+    Gtk::Window Fenetre3D;
+    Gtk::VBox BoiteVerticale;
+    Gtk::VBox BoiteMenu;
+    Gtk::HBox BoiteEtat;
+    Gtk::Label LabelX;
+    Gtk::Label LabelY;
+    Gtk::Label LabelAction;
+    Gtk::Label LabelCalques;
+    Gtk::Label LabelTravail;
+    Gtk::Label LabelAffiche;
+    Glib::RefPtr<Gtk::UIManager> GestionnaireUI;
+    Glib::RefPtr<Gtk::ActionGroup> Actions;
+    Gtk::Widget* BarreOutils = nullptr;  ///< The user interface manager's.
+    Glib::RefPtr<Gtk::RecentAction> ActionRecents;
+    int LargeurEtat = 0;  ///< Width, in pixels, that the margins of the status row suit.
+};

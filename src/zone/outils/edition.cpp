@@ -1,0 +1,63 @@
+// Rest, the tool that moves and deforms, and the one that deletes.
+
+#include <gdk/gdkkeysyms.h>
+
+#include <vector>
+
+#include "model/bddgeo.h"
+#include "zone/outils/communs.h"
+#include "zone/zonedessin.h"
+
+namespace {
+
+bool PrendPoignee(ZoneDessin& zone, const PointVek& p) {
+    zone.EltDeforme = zone.EltCourant->Clone();
+    zone.EltDeforme->DebutDeforme(p);
+    zone.PointDepart = zone.EltDeforme->PointProche(p);
+    return true;
+}
+
+bool Pose(ZoneDessin& zone, const PointVek& p) {
+    zone.EltDeforme->Deforme(p - zone.PointDepart);
+    // Only the left key makes a copy.
+    if (zone.Touche == GDK_Control_L)
+        BddCourante.Ajoute(std::move(zone.EltDeforme));
+    else
+        BddCourante.Change(*zone.EltCourant, *zone.EltDeforme);
+    zone.Redessine();
+    return true;
+}
+
+Bande ApercuPose(ZoneDessin& zone, const PointVek& p) {
+    const auto deforme = zone.EltDeforme->Clone();
+    deforme->Deforme(p - zone.PointDepart);
+    return BandeDe(*deforme);
+}
+
+bool Supprime(ZoneDessin& zone, const PointVek& p) {
+    BddCourante.Efface(p);
+    zone.Redessine();
+    return true;
+}
+
+}  // namespace
+
+std::vector<LigneEtat> LignesEdition() {
+    return {
+        LigneEtat(ETAT_REPOS, ETAT_REPOS, "").Pointe(Gdk::ARROW),
+        LigneEtat(ETAT_MODIFIE, ETAT_MODIFIE, "Elément à déplacer")
+            .AuClic(PrendElement, ETAT_MODIFIE_POINT),
+        LigneEtat(ETAT_MODIFIE_POINT, ETAT_MODIFIE, "Point de l'élément à déplacer")
+            .AuClic(PrendPoignee, ETAT_MODIFIE_POSITION)
+            .Pointe(Gdk::HAND1)
+            .AvecPoignees(),
+        LigneEtat(ETAT_MODIFIE_POSITION, ETAT_MODIFIE,
+                  "Nouvelle position, appuyer sur Ctrl pour faire une copie")
+            .AuClic(Pose, ETAT_MODIFIE)
+            .Montre(ApercuPose)
+            .Pointe(Gdk::HAND1)
+            .AvecPoignees(),
+        LigneEtat(ETAT_SUPPRIME, ETAT_SUPPRIME, "Elément à supprimer")
+            .AuClic(Supprime, ETAT_SUPPRIME),
+    };
+}

@@ -1,0 +1,35 @@
+// Centring and zoom by clicks.
+
+#include <vector>
+
+#include "model/echelle.h"
+#include "zone/outils/communs.h"
+#include "zone/zonedessin.h"
+
+namespace {
+
+bool CentreVue(ZoneDessin& zone, const PointVek& p) {
+    EchelleCourante.Origine = p;
+    zone.VueChangee();
+    return true;
+}
+
+bool Zoome(ZoneDessin& zone, const PointVek& p) {
+    EchelleCourante.ZoomRectangle(zone.Protos.Rectangle.Origine, p, zone.Largeur());
+    zone.VueChangee();
+    return true;
+}
+
+}  // namespace
+
+std::vector<LigneEtat> LignesVue() {
+    return {
+        LigneEtat(ETAT_ZOOM_ORIGINE, ETAT_ZOOM_ORIGINE, "Position du nouveau centre de la vue")
+            .AuClic(CentreVue, ETAT_ZOOM_ORIGINE),
+        LigneEtat(ETAT_ZOOM_1, ETAT_ZOOM_1, "Zoom Position haut gauche")
+            .AuClic(PrendPremierCoin, ETAT_ZOOM_2),
+        LigneEtat(ETAT_ZOOM_2, ETAT_ZOOM_1, "Zoom Position bas droite")
+            .AuClic(Zoome, ETAT_ZOOM_1)
+            .Montre(ApercuRectangle),
+    };
+}

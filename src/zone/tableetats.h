@@ -1,0 +1,7 @@
+#pragma once
+
+#include "zone/ligneetat.h"
+
+/// The row of a state, 0 to `NOMBRE_ETATS` - 1. The table is made and checked at the first call:
+/// every number stands in it once, and every state that a row leads to exists.
+const LigneEtat& LigneDe(int etat);

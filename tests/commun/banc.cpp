@@ -1,0 +1,136 @@
+#include "commun/banc.h"
+
+#include <gdk/gdk.h>
+#include <glibmm/main.h>
+#include <gtkmm/entry.h>
+#include <gtkmm/main.h>
+
+#include "model/bddgeo.h"
+#include "model/echelle.h"
+
+void LaisseTourner() {
+    gdk_display_sync(gdk_display_get_default());
+    while (Gtk::Main::events_pending())
+        Gtk::Main::iteration(false);
+    gdk_display_sync(gdk_display_get_default());
+}
+
+void RepondDialogue(int reponse, std::function<void(Gtk::Dialog&)> prepare) {
+    Glib::signal_timeout().connect(
+        [reponse, prepare] {
+            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+                auto* dialogue = dynamic_cast<Gtk::Dialog*>(fenetre);
+                if (!dialogue || !dialogue->get_mapped()) continue;
+                if (prepare) prepare(*dialogue);
+                dialogue->response(reponse);
+                return false;
+            }
+            return true;
+        },
+        5);
+}
+
+void RepondSaisie(const std::string& texte, int reponse) {
+    RepondDialogue(reponse, [texte](Gtk::Dialog& dialogue) {
+        if (auto* saisie = PremierDe<Gtk::Entry>(dialogue)) saisie->set_text(texte);
+    });
+}
+
+Capture::Capture(const Glib::RefPtr<Gdk::Window>& fenetre) {
+    int largeur = 0, hauteur = 0;
+    fenetre->get_size(largeur, hauteur);
+    Image = Gdk::Pixbuf::create(Glib::RefPtr<Gdk::Drawable>(fenetre), 0, 0, largeur, hauteur);
+}
+
+unsigned Capture::Pixel(int x, int y) const {
+    const guint8* p =
+        Image->get_pixels() + y * Image->get_rowstride() + x * Image->get_n_channels();
+    return static_cast<unsigned>(p[0]) << 16 | static_cast<unsigned>(p[1]) << 8 | p[2];
+}
+
+int Capture::Ecart(const Capture& autre) const {
+    int ecart = 0;
+    for (int y = 0; y < Image->get_height(); ++y)
+        for (int x = 0; x < Image->get_width(); ++x)
+            ecart += Pixel(x, y) != autre.Pixel(x, y);
+    return ecart;
+}
+
+int Capture::EcartSur(const Capture& fond, const Capture& autre) const {
+    int ecart = 0;
+    for (int y = 0; y < Image->get_height(); ++y)
+        for (int x = 0; x < Image->get_width(); ++x)
+            ecart += fond.Pixel(x, y) == 0xffffff && Pixel(x, y) != autre.Pixel(x, y);
+    return ecart;
+}
+
+void Capture::Garde(const std::string& nom) const {
+    g_mkdir_with_parents(KRVEK_IMAGES, 0777);
+    Image->save(std::string(KRVEK_IMAGES) + "/" + nom + ".png", "png");
+}
+
+void Main::Bouge(double x, double y) {
+    GdkEvent evenement = {};
+    evenement.motion.type = GDK_MOTION_NOTIFY;
+    evenement.motion.window = Zone.get_window()->gobj();
+    evenement.motion.x = x;
+    evenement.motion.y = y;
+    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+}
+
+void Main::Presse(double x, double y, int bouton, GdkEventType type) {
+    GdkEvent evenement = {};
+    evenement.button.type = type;
+    evenement.button.window = Zone.get_window()->gobj();
+    evenement.button.x = x;
+    evenement.button.y = y;
+    evenement.button.button = static_cast<guint>(bouton);
+    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+}
+
+void Main::Tourne(double x, double y, GdkScrollDirection sens) {
+    GdkEvent evenement = {};
+    evenement.scroll.type = GDK_SCROLL;
+    evenement.scroll.window = Zone.get_window()->gobj();
+    evenement.scroll.x = x;
+    evenement.scroll.y = y;
+    evenement.scroll.direction = sens;
+    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+}
+
+void Main::Touche(unsigned touche) {
+    GdkEventKey evenement = {};
+    evenement.type = GDK_KEY_PRESS;
+    evenement.keyval = touche;
+    Zone.ToucheEnfoncee(&evenement);
+}
+
+void Main::BougeA(const PointVek& p) {
+    const PointVek pixel = EchelleCourante.VersEcran(p);
+    Bouge(pixel.x, pixel.y);
+}
+
+void Main::ClicA(const PointVek& p) {
+    const PointVek pixel = EchelleCourante.VersEcran(p);
+    Presse(pixel.x, pixel.y);
+}
+
+Banc::Banc() : Souris(Zone) {
+    BddCourante.Vide();
+    BddCourante.SetCalqueAffiche(-1);
+    EchelleCourante.ZoomInit();
+    Zone.set_size_request(600, 400);
+    Fenetre.set_resizable(false);
+    Fenetre.add(Zone);
+    Fenetre.show_all();
+    LaisseTourner();
+}
+
+Banc::~Banc() {
+    BddCourante.Vide();
+}
+
+Capture Banc::Image() {
+    LaisseTourner();
+    return Capture(Zone.get_window());
+}
