@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "elements/angles.h"
 
@@ -16,21 +17,24 @@ int CoteTuile(double cote) {
     return static_cast<int>(std::clamp(std::round(cote), 1.0, 2048.0));
 }
 
+/// A tile and its hatch line, from edge to edge.
 struct DessinTuile {
     int Largeur;
     int Hauteur;
-    int x0, y0, x1, y1;  ///< The hatch line.
+    double x0, y0, x1, y1;
 };
 
-DessinTuile Dispose(double angle, double pas) {
+DessinTuile Dispose(double angle, double pas, int epaisseur) {
     const double ecart = std::abs(angle);
     const int cote = CoteTuile(pas);
-    if (ecart < PresqueDroit) return {cote, cote, 0, cote / 2, cote - 1, cote / 2};
-    if (ecart > Pi / 2.0 - PresqueDroit) return {cote, cote, cote / 2, 0, cote / 2, cote - 1};
+    // A line of odd width is sharp between two pixel borders.
+    const double milieu = cote / 2 + (epaisseur % 2) * 0.5;
+    if (ecart < PresqueDroit) return {cote, cote, 0.0, milieu, 1.0 * cote, milieu};
+    if (ecart > Pi / 2.0 - PresqueDroit) return {cote, cote, milieu, 0.0, milieu, 1.0 * cote};
     const int largeur = CoteTuile(pas / std::sin(ecart));
     const int hauteur = CoteTuile(pas / std::cos(ecart));
-    if (angle >= 0.0) return {largeur, hauteur, largeur - 1, 0, 0, hauteur - 1};
-    return {largeur, hauteur, 0, 0, largeur - 1, hauteur - 1};
+    if (angle >= 0.0) return {largeur, hauteur, 1.0 * largeur, 0.0, 0.0, 1.0 * hauteur};
+    return {largeur, hauteur, 0.0, 0.0, 1.0 * largeur, 1.0 * hauteur};
 }
 
 }  // namespace
@@ -51,7 +55,8 @@ int EpaisseurBornee(const Trait& trait) {
 
 Glib::RefPtr<Gdk::Pixmap> TuileHachure(const Glib::RefPtr<Gdk::Drawable>& surface,
                                        const Trait& trait) {
-    const DessinTuile d = Dispose(AngleHachureBorne(trait), PasHachureBorne(trait));
+    const DessinTuile d = Dispose(AngleHachureBorne(trait), PasHachureBorne(trait),
+                                  EpaisseurBornee(trait));
     const auto tuile = Gdk::Pixmap::create(surface, d.Largeur, d.Hauteur, surface->get_depth());
     tuile->set_colormap(surface->get_colormap());
     const auto cr = tuile->create_cairo_context();
@@ -64,8 +69,12 @@ Glib::RefPtr<Gdk::Pixmap> TuileHachure(const Glib::RefPtr<Gdk::Drawable>& surfac
     cr->restore();
     Gdk::Cairo::set_source_color(cr, trait.Couleur);
     cr->set_line_width(EpaisseurBornee(trait));
-    cr->move_to(d.x0, d.y0);
-    cr->line_to(d.x1, d.y1);
+    // The lines of the neighbouring tiles reach into this one's corners.
+    const bool oblique = d.x0 != d.x1 && d.y0 != d.y1;
+    for (const int rang : oblique ? std::vector<int>{-1, 0, 1} : std::vector<int>{0}) {
+        cr->move_to(d.x0 + rang * d.Largeur, d.y0);
+        cr->line_to(d.x1 + rang * d.Largeur, d.y1);
+    }
     cr->stroke();
     return tuile;
 }

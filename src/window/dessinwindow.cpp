@@ -59,15 +59,6 @@ DessinWindow::~DessinWindow() {
     Zone.MetLabels(nullptr, nullptr, nullptr);
 }
 
-std::array<DessinWindow::LibelleEtat, 6> DessinWindow::LibellesEtat() {
-    return {{{&LabelX, 100},
-             {&LabelY, 100},
-             {&LabelTravail, 20},
-             {&LabelAffiche, 20},
-             {&LabelCalques, 20},
-             {&LabelAction, 200}}};
-}
-
 void DessinWindow::RangeEtat() {
     for (Gtk::Label* coordonnee : {&LabelX, &LabelY}) {
         // One width whatever the number, or the row would dance under the pointer.
@@ -85,26 +76,28 @@ void DessinWindow::RangeEtat() {
         [this](const Gtk::Allocation& place) { AjusteMarges(place); });
 }
 
-void DessinWindow::AjusteMarges(const Gtk::Allocation& place) {
-    // A change of the margins brings the same allocation once more.
-    if (place.get_width() == LargeurEtat) return;
-    LargeurEtat = place.get_width();
+int DessinWindow::MargeVoulue(const Gtk::Widget* libelle) const {
+    if (libelle == &LabelAction) return 200;
+    return libelle == &LabelX || libelle == &LabelY ? 100 : 20;
+}
 
+void DessinWindow::AjusteMarges(const Gtk::Allocation& place) {
     int invite = 0, hauteur = 0;
     LabelAction.create_pango_layout(InviteLongue)->get_pixel_size(invite, hauteur);
-    int libre = LargeurEtat - invite, marges = 0;
-    for (const LibelleEtat& etat : LibellesEtat()) {
-        if (etat.Libelle != &LabelAction) libre -= etat.Libelle->size_request().width;
-        marges += 2 * etat.Marge;
+    int libre = place.get_width() - invite, voulues = 0;
+    for (const Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
+        const Gtk::Widget* libelle = enfant.get_widget();
+        if (libelle != &LabelAction) libre -= libelle->size_request().width;
+        voulues += 2 * MargeVoulue(libelle);
     }
-    const double part = std::clamp(static_cast<double>(libre) / marges, 0.0, 1.0);
-    for (const LibelleEtat& etat : LibellesEtat()) {
-        const bool coordonnee = etat.Libelle == &LabelX || etat.Libelle == &LabelY;
-        BoiteEtat.set_child_packing(
-            *etat.Libelle,
-            etat.Libelle == &LabelAction ? Gtk::PACK_EXPAND_WIDGET : Gtk::PACK_SHRINK,
-            std::max(MargeMin, static_cast<int>(etat.Marge * part)),
-            coordonnee ? Gtk::PACK_START : Gtk::PACK_END);
+    const double part = std::clamp(static_cast<double>(libre) / voulues, 0.0, 1.0);
+    for (Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
+        const int marge =
+            std::max(MargeMin, static_cast<int>(part * MargeVoulue(enfant.get_widget())));
+        // A change brings a new allocation: without one, this ends.
+        if (enfant.get_padding() != marge)
+            enfant.set_options(enfant.get_expand(), enfant.get_fill(),
+                               static_cast<unsigned>(marge));
     }
 }
 

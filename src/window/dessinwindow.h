@@ -7,7 +7,6 @@
 #include <gtkmm/uimanager.h>
 #include <gtkmm/window.h>
 
-#include <array>
 #include <string>
 
 #include "window/actions.h"
@@ -60,14 +59,12 @@ class DessinWindow : public Gtk::Window {
     bool on_focus_out_event(GdkEventFocus* evenement) override;
 
   private:
-    /// A label of the status row and its margin in pixels where there is room.
-    struct LibelleEtat {
-        Gtk::Label* Libelle;
-        int Marge;
-    };
-
-    std::array<LibelleEtat, 6> LibellesEtat();
     void RangeEtat();
+
+    /// Margin in pixels of a label of the status row where there is room.
+    int MargeVoulue(const Gtk::Widget* libelle) const;
+
+    /// Shrinks the margins before the labels would overlap.
     void AjusteMarges(const Gtk::Allocation& place);
     void AfficheCalques();
 
@@ -92,5 +89,4 @@ class DessinWindow : public Gtk::Window {
     Glib::RefPtr<Gtk::ActionGroup> Actions;
     Gtk::Widget* BarreOutils = nullptr;  ///< The user interface manager's.
     Glib::RefPtr<Gtk::RecentAction> ActionRecents;
-    int LargeurEtat = 0;  ///< Width, in pixels, that the margins of the status row suit.
 };

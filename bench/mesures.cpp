@@ -1,0 +1,323 @@
+// How fast the program opens, saves, paints and follows the pointer, beside the floor of each.
+
+#include <benchmark/benchmark.h>
+#include <gdk/gdk.h>
+#include <gtkmm/main.h>
+#include <gtkmm/window.h>
+#include <malloc.h>
+
+#include <charconv>
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <vector>
+
+#include "dessinmesure.h"
+#include "elements/angles.h"
+#include "elements/ecrivain.h"
+#include "elements/eltarc.h"
+#include "elements/eltsegment.h"
+#include "elements/vue.h"
+#include "model/bddgeo.h"
+#include "model/echelle.h"
+#include "model/fichier.h"
+#include "rapports.h"
+#include "zone/etats.h"
+#include "zone/zonedessin.h"
+
+namespace {
+
+const std::string& Fichier(int nombre) {
+    static std::map<int, std::string> fichiers;
+    std::string& nom = fichiers[nombre];
+    if (nom.empty()) nom = FichierMesure(nombre);
+    return nom;
+}
+
+/// Every number of a drawing's text, in order.
+std::vector<double> Nombres(const std::string& texte) {
+    std::vector<double> nombres;
+    const char* p = texte.data();
+    const char* fin = p + texte.size();
+    while (p != fin) {
+        while (p != fin && (*p == ' ' || *p == '\n'))
+            ++p;
+        double valeur;
+        const auto [suite, erreur] = std::from_chars(p, fin, valeur);
+        if (erreur == std::errc()) nombres.push_back(valeur);
+        p = suite;
+        while (p != fin && *p != ' ' && *p != '\n')
+            ++p;
+    }
+    return nombres;
+}
+
+void Ouverture(benchmark::State& etat) {
+    const std::string& nom = Fichier(static_cast<int>(etat.range(0)));
+    for (auto _ : etat) {
+        auto bdd = std::make_unique<BDDGeo>();
+        bdd->Ouvre(nom);
+        etat.PauseTiming();
+        bdd.reset();
+        etat.ResumeTiming();
+    }
+}
+
+void OuverturePlancher(benchmark::State& etat) {
+    const std::string& nom = Fichier(static_cast<int>(etat.range(0)));
+    for (auto _ : etat) {
+        std::string texte;
+        LitFichier(nom, texte);
+        benchmark::DoNotOptimize(Nombres(texte));
+    }
+}
+
+void Sauvegarde(benchmark::State& etat) {
+    BDDGeo bdd;
+    bdd.Ouvre(Fichier(static_cast<int>(etat.range(0))));
+    for (auto _ : etat)
+        benchmark::DoNotOptimize(bdd.SauveTexte());
+}
+
+void SauvegardePlancher(benchmark::State& etat) {
+    std::string texte;
+    LitFichier(Fichier(static_cast<int>(etat.range(0))), texte);
+    const std::vector<double> nombres = Nombres(texte);
+    std::vector<char> tampon(nombres.size() * 16);
+    for (auto _ : etat) {
+        char* p = tampon.data();
+        for (const double valeur : nombres)
+            p += std::snprintf(p, 16, "%g ", valeur);
+        benchmark::DoNotOptimize(p);
+    }
+}
+
+/// The area in a window, on a drawing of nombre elements.
+struct Ecran {
+    explicit Ecran(int nombre) {
+        fenetre.set_default_size(1000, 800);
+        fenetre.add(zone);
+        fenetre.show_all();
+        BddCourante.Ouvre(Fichier(nombre));
+        EchelleCourante.ZoomInit();
+        Tourne();
+    }
+
+    ~Ecran() { BddCourante.Vide(); }
+
+    static void Tourne() {
+        while (Gtk::Main::events_pending())
+            Gtk::Main::iteration(false);
+        gdk_display_sync(gdk_display_get_default());
+    }
+
+    /// Shows a square of the side (drawing units) about the origin.
+    void Montre(double cote) {
+        EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2},
+                                      zone.Hauteur());
+    }
+
+    void Repeint() {
+        zone.Redessine();
+        zone.get_window()->process_updates(false);
+        gdk_display_sync(gdk_display_get_default());
+    }
+
+    void Bouge(double x, double y) {
+        GdkEvent evenement = {};
+        evenement.motion.type = GDK_MOTION_NOTIFY;
+        evenement.motion.window = zone.get_window()->gobj();
+        evenement.motion.x = x;
+        evenement.motion.y = y;
+        gtk_widget_event(GTK_WIDGET(zone.gobj()), &evenement);
+        gdk_display_sync(gdk_display_get_default());
+    }
+
+    Gtk::Window fenetre;
+    ZoneDessin zone;
+};
+
+void Repeinte(benchmark::State& etat) {
+    Ecran ecran(static_cast<int>(etat.range(0)));
+    ecran.Montre(10200.0);
+    for (auto _ : etat)
+        ecran.Repeint();
+}
+
+void RepeinteCentieme(benchmark::State& etat) {
+    Ecran ecran(static_cast<int>(etat.range(0)));
+    ecran.Montre(1000.0);
+    for (auto _ : etat)
+        ecran.Repeint();
+}
+
+/// An area that only makes the toolkit's calls, on pixels worked out beforehand.
+class AireNue : public Gtk::DrawingArea {
+  public:
+    struct Appel {
+        bool Arc;
+        int x, y, a, b, debut, ouverture;
+    };
+
+    std::vector<Appel> Appels;
+
+  protected:
+    bool on_expose_event(GdkEventExpose*) override {
+        GdkWindow* fenetre = get_window()->gobj();
+        GdkGC* gc = gdk_gc_new(fenetre);
+        gdk_gc_set_line_attributes(gc, 1, GDK_LINE_SOLID, GDK_CAP_ROUND, GDK_JOIN_MITER);
+        for (const Appel& appel : Appels)
+            if (appel.Arc)
+                gdk_draw_arc(fenetre, gc, FALSE, appel.x, appel.y, appel.a, appel.b, appel.debut,
+                             appel.ouverture);
+            else
+                gdk_draw_line(fenetre, gc, appel.x, appel.y, appel.a, appel.b);
+        g_object_unref(gc);
+        return true;
+    }
+};
+
+std::vector<AireNue::Appel> AppelsDe(const BDDGeo& bdd) {
+    const auto pixels = [](double v) { return static_cast<int>(std::lround(v)); };
+    std::vector<AireNue::Appel> appels;
+    for (const EltGeo* elt : bdd.Elements) {
+        if (elt->Type == TypeSegment) {
+            const auto& segment = static_cast<const EltSegment&>(*elt);
+            const PointVek a = vue::VersEcran(segment.Origine);
+            const PointVek b = vue::VersEcran(segment.Extremite);
+            appels.push_back({false, pixels(a.x), pixels(a.y), pixels(b.x), pixels(b.y), 0, 0});
+            continue;
+        }
+        const auto& arc = static_cast<const EltArc&>(*elt);
+        const PointVek c = vue::VersEcran(arc.Centre());
+        const double r = vue::LongueurEcran(arc.Rayon);
+        appels.push_back({true, pixels(c.x - r), pixels(c.y - r), pixels(2 * r), pixels(2 * r),
+                          pixels(EnDegres(arc.AngleDebut) * 64),
+                          pixels(EnDegres(arc.Ouverture) * 64)});
+    }
+    return appels;
+}
+
+void RepeintePlancher(benchmark::State& etat) {
+    std::vector<AireNue::Appel> appels;
+    {
+        Ecran ecran(static_cast<int>(etat.range(0)));
+        ecran.Montre(10200.0);
+        appels = AppelsDe(BddCourante);
+    }
+    Gtk::Window fenetre;
+    AireNue aire;
+    aire.Appels = std::move(appels);
+    fenetre.set_default_size(1000, 800);
+    fenetre.add(aire);
+    fenetre.show_all();
+    Ecran::Tourne();
+    for (auto _ : etat) {
+        aire.queue_draw();
+        aire.get_window()->process_updates(false);
+        gdk_display_sync(gdk_display_get_default());
+    }
+}
+
+/// One motion of the segment tool, with or without the search for special points.
+void Motion(benchmark::State& etat, bool accrochage) {
+    Ecran ecran(static_cast<int>(etat.range(0)));
+    ecran.Montre(10200.0);
+    if (accrochage) ecran.zone.Bascule(&OptionsAccrochage::Actif);
+    ecran.zone.Entre(ETAT_SEGMENT_2);
+    ecran.Repeint();
+    ecran.Bouge(500, 400);
+    int pas = 0;
+    for (auto _ : etat) {
+        ++pas;
+        ecran.Bouge(400 + pas % 200, 300 + pas % 131);
+    }
+}
+
+void MotionAccrochage(benchmark::State& etat) {
+    Motion(etat, true);
+}
+
+void MotionBande(benchmark::State& etat) {
+    Motion(etat, false);
+}
+
+void AnnulationDixMille(benchmark::State& etat) {
+    EltSegment source({0, 0}, {10, 10}, 0);
+    for (auto _ : etat) {
+        BDDGeo bdd;
+        EltGeo* cible = bdd.Ajoute(source);
+        for (int i = 0; i < 10000; ++i)
+            bdd.Change(*cible, source);
+        benchmark::DoNotOptimize(cible);
+    }
+}
+
+void ClonesDixMille(benchmark::State& etat) {
+    EltSegment source({0, 0}, {10, 10}, 0);
+    for (auto _ : etat) {
+        std::vector<std::unique_ptr<EltGeo>> clones;
+        for (int i = 0; i < 10000; ++i)
+            clones.push_back(source.Clone());
+        benchmark::DoNotOptimize(clones.data());
+    }
+}
+
+BENCHMARK(OuverturePlancher)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Ouverture)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(SauvegardePlancher)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Sauvegarde)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(RepeintePlancher)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Repeinte)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(RepeinteCentieme)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(MotionAccrochage)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(MotionBande)->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(ClonesDixMille)->Unit(benchmark::kMillisecond);
+BENCHMARK(AnnulationDixMille)->Unit(benchmark::kMillisecond);
+
+std::size_t MemoirePrise() {
+    const struct mallinfo2 etat = mallinfo2();
+    return etat.uordblks + etat.hblkhd;
+}
+
+void AfficheMemoire(int nombre) {
+    const std::string nom = Fichier(nombre);
+    BDDGeo bdd;
+    const std::size_t avant = MemoirePrise();
+    bdd.Ouvre(nom);
+    bdd.Cherche({0.0, 0.0});
+    std::printf("%-52s %8.1f bytes (at most 500)\n", "memory of an element, searches included",
+                static_cast<double>(MemoirePrise() - avant) / nombre);
+}
+
+}  // namespace
+
+int main(int nombre, char** mots) {
+    // Slices out of the allocator's sight would not be counted.
+    setenv("G_SLICE", "always-malloc", 1);
+    Gtk::Main toolkit(nombre, mots, true);
+    std::setlocale(LC_NUMERIC, "C");
+    benchmark::Initialize(&nombre, mots);
+    Rapports rapports;
+    benchmark::RunSpecifiedBenchmarks(&rapports);
+
+    std::printf("\n");
+    rapports.Compare("opening / read and converted once", "Ouverture/100000",
+                     "OuverturePlancher/100000", 4);
+    rapports.Compare("saving / written once", "Sauvegarde/100000", "SauvegardePlancher/100000", 3);
+    rapports.Compare("repaint / the bare calls", "Repeinte/100000", "RepeintePlancher/100000", 1.5);
+    rapports.Compare("repaint of 1 in 100 / of all", "RepeinteCentieme/100000", "Repeinte/100000",
+                     0.05);
+    rapports.Temps("one motion with snapping, 100,000 elements", "MotionAccrochage/100000", 3);
+    rapports.Compare("band on 1,000,000 / on 10,000 elements", "MotionBande/1000000",
+                     "MotionBande/10000", 1.5);
+    rapports.Compare("opening 1,000,000 / 100,000", "Ouverture/1000000", "Ouverture/100000", 12);
+    rapports.Compare("repaint of 1,000,000 / 100,000", "Repeinte/1000000", "Repeinte/100000", 12);
+    rapports.Compare("snapping on 1,000,000 / 100,000", "MotionAccrochage/1000000",
+                     "MotionAccrochage/100000", 12);
+    rapports.Compare("10,000 undo records / 10,000 clones", "AnnulationDixMille", "ClonesDixMille",
+                     3);
+    AfficheMemoire(100000);
+    return 0;
+}
