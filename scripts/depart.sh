@@ -7,7 +7,9 @@ for essai in 1 2 3 4 5; do
     debut=$(date +%s%N)
     "$@" > /dev/null 2>&1 &
     programme=$!
-    xdotool search --sync --onlyvisible --pid "$programme" > /dev/null
+    until xdotool search --onlyvisible --pid "$programme" > /dev/null 2>&1; do
+        sleep 0.002
+    done
     duree=$((($(date +%s%N) - debut) / 1000000))
     kill "$programme" 2> /dev/null
     wait "$programme" 2> /dev/null || true

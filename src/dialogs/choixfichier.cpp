@@ -22,7 +22,10 @@ class ChoixFichier : public Gtk::FileChooserDialog {
         Filtre.set_name(genre.Filtre);
         Filtre.add_pattern(std::string("*") + genre.Extension);
         add_filter(Filtre);
-        if (!voisin.empty()) set_current_folder(Glib::path_get_dirname(voisin));
+        // Without a folder the chooser would begin with a list of files used last, and take no
+        // plain name.
+        set_current_folder(voisin.empty() ? Glib::get_current_dir()
+                                          : Glib::path_get_dirname(voisin));
     }
 
   private:

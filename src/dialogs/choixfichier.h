@@ -12,7 +12,7 @@ struct GenreFichier {
 };
 
 // File names are absolute and in the encoding of file names. A question starts in the folder of the
-// file `voisin`, where that has a name.
+// file `voisin`; in the current one where that has no name.
 
 /// Asks for a file to read; empty when the user gives up.
 std::string ChoisitLecture(Gtk::Window& parente, const GenreFichier& genre,

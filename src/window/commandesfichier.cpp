@@ -15,9 +15,22 @@ constexpr GenreFichier Lecture = {"Choisir le fichier à ouvrir", "Fichier Dessi
 constexpr GenreFichier Ecriture = {"Choisir le nom du fichier à enregistrer", "Fichier Dessin",
                                    ".vek"};
 
-Glib::ustring QuestionEnregistrer() {
-    return "Enregistrer le fichier " + Glib::filename_display_name(BddCourante.NomFichier) + " ?";
-}
+/// Whether to save, as a question in which Enter says yes.
+class QuestionEnregistrer : public Gtk::MessageDialog {
+  public:
+    explicit QuestionEnregistrer(Gtk::Window& parente)
+        : Gtk::MessageDialog(parente, Texte(), false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_OK_CANCEL,
+                             true) {
+        set_default_response(Gtk::RESPONSE_OK);
+    }
+
+  private:
+    static Glib::ustring Texte() {
+        if (!BddCourante.Nomme) return "Enregistrer votre travail ?";
+        return "Enregistrer le fichier " + Glib::filename_display_name(BddCourante.NomFichier) +
+               " ?";
+    }
+};
 
 bool EstFichier(const std::string& nom) {
     return Glib::file_test(nom, Glib::FILE_TEST_IS_REGULAR);
@@ -81,13 +94,10 @@ void DessinWindow::SaveAs() {
 }
 
 void DessinWindow::DemandeEnregistrement() {
-    const bool nomme = BddCourante.Nomme;
-    Gtk::MessageDialog question(
-        *this, nomme ? QuestionEnregistrer() : Glib::ustring("Enregistrer votre travail ?"), false,
-        Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_OK_CANCEL, true);
+    QuestionEnregistrer question(*this);
     if (question.run() != Gtk::RESPONSE_OK) return;
     question.hide();
-    if (nomme)
+    if (BddCourante.Nomme)
         Save();
     else
         SaveAs();
@@ -98,8 +108,7 @@ bool DessinWindow::ConfirmeFermeture() {
     std::string nom = BddCourante.NomFichier;
     int reponse = Gtk::RESPONSE_NONE;
     if (BddCourante.Nomme) {
-        Gtk::MessageDialog question(*this, QuestionEnregistrer(), false, Gtk::MESSAGE_QUESTION,
-                                    Gtk::BUTTONS_OK_CANCEL, true);
+        QuestionEnregistrer question(*this);
         question.add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
         reponse = question.run();
     } else {

@@ -13,7 +13,7 @@
 namespace {
 
 /// What is left of a margin of the status row, in pixels, where there is no room.
-constexpr int MargeMin = 4;
+constexpr int MargeMin = 6;
 
 /// A long prompt: margins shrink before one like it is cut.
 constexpr char InviteLongue[] = "Nouvelle position, appuyer sur Ctrl pour faire une copie";
@@ -72,8 +72,6 @@ void DessinWindow::RangeEtat() {
     LabelAction.set_ellipsize(Pango::ELLIPSIZE_END);
     LabelAction.set_alignment(Gtk::ALIGN_RIGHT);
     BoiteEtat.pack_end(LabelAction, Gtk::PACK_EXPAND_WIDGET, MargeMin);
-    BoiteEtat.signal_size_allocate().connect(
-        [this](const Gtk::Allocation& place) { AjusteMarges(place); });
 }
 
 int DessinWindow::MargeVoulue(const Gtk::Widget* libelle) const {
@@ -81,10 +79,10 @@ int DessinWindow::MargeVoulue(const Gtk::Widget* libelle) const {
     return libelle == &LabelX || libelle == &LabelY ? 100 : 20;
 }
 
-void DessinWindow::AjusteMarges(const Gtk::Allocation& place) {
+void DessinWindow::AjusteMarges(int largeur) {
     int invite = 0, hauteur = 0;
     LabelAction.create_pango_layout(InviteLongue)->get_pixel_size(invite, hauteur);
-    int libre = place.get_width() - invite, voulues = 0;
+    int libre = largeur - invite, voulues = 0;
     for (const Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
         const Gtk::Widget* libelle = enfant.get_widget();
         if (libelle != &LabelAction) libre -= libelle->size_request().width;
@@ -94,10 +92,7 @@ void DessinWindow::AjusteMarges(const Gtk::Allocation& place) {
     for (Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
         const int marge =
             std::max(MargeMin, static_cast<int>(part * MargeVoulue(enfant.get_widget())));
-        // A change brings a new allocation: without one, this ends.
-        if (enfant.get_padding() != marge)
-            enfant.set_options(enfant.get_expand(), enfant.get_fill(),
-                               static_cast<unsigned>(marge));
+        enfant.set_options(enfant.get_expand(), enfant.get_fill(), static_cast<unsigned>(marge));
     }
 }
 
@@ -116,6 +111,12 @@ void DessinWindow::MetTitre() {
 
 bool DessinWindow::on_delete_event(GdkEventAny*) {
     return !ConfirmeFermeture();
+}
+
+bool DessinWindow::on_configure_event(GdkEventConfigure* evenement) {
+    // Before the new layout, which a change made within it would miss.
+    AjusteMarges(evenement->width - 2 * static_cast<int>(get_border_width()));
+    return Gtk::Window::on_configure_event(evenement);
 }
 
 bool DessinWindow::on_key_press_event(GdkEventKey* evenement) {

@@ -54,6 +54,7 @@ class DessinWindow : public Gtk::Window {
 
   protected:
     bool on_delete_event(GdkEventAny* evenement) override;
+    bool on_configure_event(GdkEventConfigure* evenement) override;
     bool on_key_press_event(GdkEventKey* evenement) override;
     bool on_key_release_event(GdkEventKey* evenement) override;
     bool on_focus_out_event(GdkEventFocus* evenement) override;
@@ -64,8 +65,8 @@ class DessinWindow : public Gtk::Window {
     /// Margin in pixels of a label of the status row where there is room.
     int MargeVoulue(const Gtk::Widget* libelle) const;
 
-    /// Shrinks the margins before the labels would overlap.
-    void AjusteMarges(const Gtk::Allocation& place);
+    /// Suits the margins to a row of that width in pixels: they shrink before a label is cut.
+    void AjusteMarges(int largeur);
     void AfficheCalques();
 
     void ConstruitActions();

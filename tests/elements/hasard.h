@@ -9,9 +9,7 @@ class Hasard {
   public:
     explicit Hasard(unsigned graine) : Moteur(graine) {}
 
-    double Reel(double bas, double haut) {
-        return bas + (haut - bas) * (Moteur() / 4294967296.0);
-    }
+    double Reel(double bas, double haut) { return bas + (haut - bas) * (Moteur() / 4294967296.0); }
     int Entier(int borne) { return static_cast<int>(Moteur() % static_cast<unsigned>(borne)); }
     PointVek Point(double portee) { return {Reel(-portee, portee), Reel(-portee, portee)}; }
 

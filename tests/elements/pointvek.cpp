@@ -63,7 +63,8 @@ TEST(PointVek, ProjectionSuitLaTolerance) {
 
 TEST(Nombres, FormeDesFichiers) {
     Ecrivain sortie;
-    for (const double v : {1234.5678, 1e6, 0.1, 1e-5, -0.5, 123456.0, 1e300, std::nan(""), HUGE_VAL})
+    for (const double v :
+         {1234.5678, 1e6, 0.1, 1e-5, -0.5, 123456.0, 1e300, std::nan(""), HUGE_VAL})
         sortie << v << ' ';
     sortie << -7 << ' ' << true << ' ' << false;
     EXPECT_EQ(sortie.Texte(), "1234.57 1e+06 0.1 1e-05 -0.5 123456 1e+300 0 0 -7 1 0");

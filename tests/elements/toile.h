@@ -17,7 +17,9 @@ struct Image {
     int Hauteur;
     std::vector<unsigned> Pixels;
 
-    unsigned operator()(int x, int y) const { return Pixels[static_cast<std::size_t>(y * Largeur + x)]; }
+    unsigned operator()(int x, int y) const {
+        return Pixels[static_cast<std::size_t>(y * Largeur + x)];
+    }
     bool operator==(const Image& autre) const { return Pixels == autre.Pixels; }
     bool operator!=(const Image& autre) const { return Pixels != autre.Pixels; }
 };
@@ -57,11 +59,13 @@ class Toile {
     }
 
     Image Lit() const {
-        const auto lu = Gdk::Pixbuf::create(Glib::RefPtr<Gdk::Drawable>(Surface), 0, 0, Largeur, Hauteur);
+        const auto lu =
+            Gdk::Pixbuf::create(Glib::RefPtr<Gdk::Drawable>(Surface), 0, 0, Largeur, Hauteur);
         Image image{Largeur, Hauteur, {}};
         for (int y = 0; y < Hauteur; ++y)
             for (int x = 0; x < Largeur; ++x) {
-                const guint8* p = lu->get_pixels() + y * lu->get_rowstride() + x * lu->get_n_channels();
+                const guint8* p =
+                    lu->get_pixels() + y * lu->get_rowstride() + x * lu->get_n_channels();
                 image.Pixels.push_back(p[0] * 65536u + p[1] * 256u + p[2]);
             }
         return image;
