@@ -147,7 +147,10 @@ void Repeinte(benchmark::State& etat) {
 
 void RepeinteCentieme(benchmark::State& etat) {
     Ecran ecran(static_cast<int>(etat.range(0)));
-    ecran.Montre(1000.0);
+    // One corner of the drawing, at the same scale.
+    ecran.Montre(10200.0);
+    EchelleCourante.Origine = PointVek(4000.0 + ecran.zone.Largeur() / 2 / EchelleCourante.Facteur,
+                                       4000.0 + ecran.zone.Hauteur() / 2 / EchelleCourante.Facteur);
     for (auto _ : etat)
         ecran.Repeint();
 }

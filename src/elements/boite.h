@@ -7,7 +7,7 @@ struct Boite {
     double Gauche;
     double Haut;
     double Droite;
-    double Bas;  ///< At or above `Haut`: y counts downward, as in pixels.
+    double Bas;  ///< At or above `Haut` as a number, as y counts in pixels.
 
     static Boite Autour(const PointVek& a, const PointVek& b) {
         return {a.x < b.x ? a.x : b.x, a.y < b.y ? a.y : b.y, a.x < b.x ? b.x : a.x,
@@ -23,6 +23,8 @@ struct Boite {
         return Gauche <= autre.Droite && autre.Gauche <= Droite && Haut <= autre.Bas &&
                autre.Haut <= Bas;
     }
+
+    PointVek Centre() const { return {(Gauche + Droite) / 2.0, (Haut + Bas) / 2.0}; }
 
     bool Contient(const PointVek& p) const {
         return Gauche <= p.x && p.x <= Droite && Haut <= p.y && p.y <= Bas;

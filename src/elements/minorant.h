@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "elements/boite.h"
 #include "elements/pointvek.h"
 
 /// A cheap lower bound of the distances (plain and to the support) from a point to an element. The
 /// containers keep one for each element in a compact table, so that a search measures only the few
-/// elements that can win.
+/// elements that can win, and a repaint visits only those that may show.
 class Minorant {
   public:
     /// Bounds nothing: the element is always measured.
@@ -45,6 +46,24 @@ class Minorant {
                                 std::max({B - p.y, 0.0, p.y - D}));
             default:
                 return 0.0;
+        }
+    }
+
+    /// False only when nothing of the element lies in the box (drawing units).
+    bool PeutToucher(const Boite& boite) const {
+        switch (Genre) {
+            case Ligne: {
+                const PointVek centre = boite.Centre();
+                const double portee = (boite.Droite - boite.Gauche) / 2.0 * std::abs(D) +
+                                      (boite.Bas - boite.Haut) / 2.0 * std::abs(C);
+                return !(Distance(centre) > portee);
+            }
+            case Rond:
+                return boite.Touche({A - C, B - C, A + C, B + C});
+            case Cadre:
+                return boite.Touche({A, B, C, D});
+            default:
+                return true;
         }
     }
 

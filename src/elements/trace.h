@@ -30,6 +30,9 @@ class Trace {
     /// True when something inside the box, painted with the style, may show.
     bool Touche(const Boite& boite, const Trait& trait) const;
 
+    /// The pixels that are being painted.
+    const Boite& ZonePeinte() const { return Zone; }
+
     void AppliqueTrait(const Trait& trait, Matiere matiere);
 
     /// From a to b, in the style applied last, like all that follow.

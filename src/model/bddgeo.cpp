@@ -7,7 +7,9 @@
 
 #include "elements/ecrivain.h"
 #include "elements/eltrectangle.h"
+#include "elements/trace.h"
 #include "elements/vue.h"
+#include "model/echelle.h"
 #include "model/fichier.h"
 
 BDDGeo BddCourante;
@@ -33,6 +35,21 @@ void BDDGeo::Vide() {
     Modifie = false;
     Nomme = false;
     NomFichier.clear();
+}
+
+void BDDGeo::Dessine(Trace& trace) const {
+    if (!EchelleCourante.EstPlane()) {
+        BDDGeoBase::Dessine(trace);
+        return;
+    }
+    // Wide enough for the widest line and for what is painted at a fixed size in pixels.
+    constexpr double marge = 150.0;
+    const Boite pixels = trace.ZonePeinte().Elargie(marge);
+    const Boite zone =
+        Boite::Autour(EchelleCourante.VersDessin({pixels.Gauche, pixels.Haut}),
+                      EchelleCourante.VersDessin({pixels.Droite, pixels.Bas}));
+    Table.Parcourt(Elements, zone,
+                   [&](const EltGeo& elt) { DessineElement(trace, elt); });
 }
 
 EltGeo* BDDGeo::Ajoute(std::unique_ptr<EltGeo> elt) {

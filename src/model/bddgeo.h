@@ -31,6 +31,9 @@ class BDDGeo : public BDDGeoBase {
     /// Also forgets the undo records and the file.
     void Vide() override;
 
+    /// The same picture, from the elements alone that may show in it.
+    void Dessine(Trace& trace) const override;
+
     /// Takes a new element in at the head, with an undo record. An element that is not valid is
     /// destroyed, and the answer is null.
     EltGeo* Ajoute(std::unique_ptr<EltGeo> elt);
@@ -90,7 +93,7 @@ class BDDGeo : public BDDGeoBase {
 
     std::vector<EnregAnnul> Annulations;  ///< The newest last.
     EltGeo* DernierTrouve = nullptr;
-    TableRecherche Table;
+    mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;
 };
 

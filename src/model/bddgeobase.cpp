@@ -16,7 +16,11 @@ void BDDGeoBase::Vide() {
 
 void BDDGeoBase::Dessine(Trace& trace) const {
     for (const EltGeo* elt : Elements)
-        if (EstVisible(*elt) && (AfficheBDD || elt->Type != TypeBDD)) elt->Dessine(trace);
+        DessineElement(trace, *elt);
+}
+
+void BDDGeoBase::DessineElement(Trace& trace, const EltGeo& elt) const {
+    if (EstVisible(elt) && (AfficheBDD || elt.Type != TypeBDD)) elt.Dessine(trace);
 }
 
 bool BDDGeoBase::EstVisible(const EltGeo& elt) const {

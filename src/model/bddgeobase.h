@@ -22,7 +22,7 @@ class BDDGeoBase {
     virtual void Vide();
 
     /// Paints the visible elements from head to tail.
-    void Dessine(Trace& trace) const;
+    virtual void Dessine(Trace& trace) const;
 
     /// Reads a drawing's text and appends its elements. What could be read before a fault stays.
     void Charge(Lecteur& entree);
@@ -47,6 +47,8 @@ class BDDGeoBase {
     bool AfficheBDD = true;  ///< Whether groups are painted.
 
   protected:
+    void DessineElement(Trace& trace, const EltGeo& elt) const;
+
     /// Reads a drawing's text behind what is there; says so to the user, once, when a version in it
     /// is not one that can be read.
     void LitTexte(std::string_view texte);

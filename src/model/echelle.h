@@ -15,6 +15,9 @@ class Echelle : public EltGeo {
 
     PointVek VersEcran(const PointVek& p) const;
 
+    /// Nothing is turned or enlarged: pixels and drawing correspond by `VersDessin`.
+    bool EstPlane() const { return Rotation == 0.0 && Agrandissement == 1.0; }
+
     /// Pixels, as doubles, to drawing units.
     PointVek VersDessin(const PointVek& pixel) const;
 

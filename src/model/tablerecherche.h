@@ -6,7 +6,7 @@
 #include "elements/eltgeo.h"
 
 /// A compact image of a list of elements, made when it is first needed, through which a search
-/// measures only the few elements that can win. Whoever changes the list or an element's geometry
+/// measures only the few elements that can win and a repaint visits only those that may show. Whoever changes the list or an element's geometry
 /// calls `Perime`.
 class TableRecherche {
   public:
@@ -35,6 +35,14 @@ class TableRecherche {
             trouve = ligne->Elt;
         }
         return trouve;
+    }
+
+    /// Calls action on the elements that may lie in the box (drawing units), from head to tail.
+    template <class Action>
+    void Parcourt(const Liste<EltGeo>& elements, const Boite& boite, const Action& action) {
+        if (!AJour) Refait(elements);
+        for (auto ligne = Lignes.rbegin(); ligne != Lignes.rend(); ++ligne)
+            if (ligne->Borne.PeutToucher(boite)) action(*ligne->Elt);
     }
 
   private:
