@@ -114,8 +114,7 @@ struct Ecran {
 
     /// Shows a square of the side (drawing units) about the origin.
     void Montre(double cote) {
-        EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2},
-                                      zone.Hauteur());
+        EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2}, zone.Hauteur());
     }
 
     void Repeint() {

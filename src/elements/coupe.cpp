@@ -62,15 +62,14 @@ void Subdivise(const ArcEcran& arc, double a0, double a1, const Boite& boite, in
 bool CoupeLigne(const PointVek& a, const PointVek& b, const Boite& boite, double& t0, double& t1) {
     const PointVek d = b - a;
     return CoupeCote(a.x, d.x, boite.Droite, t0, t1) &&
-           CoupeCote(-a.x, -d.x, -boite.Gauche, t0, t1) &&
-           CoupeCote(a.y, d.y, boite.Bas, t0, t1) && CoupeCote(-a.y, -d.y, -boite.Haut, t0, t1);
+           CoupeCote(-a.x, -d.x, -boite.Gauche, t0, t1) && CoupeCote(a.y, d.y, boite.Bas, t0, t1) &&
+           CoupeCote(-a.y, -d.y, -boite.Haut, t0, t1);
 }
 
 std::vector<PointVek> CoupePolygone(std::vector<PointVek> sommets, const Boite& boite) {
-    for (const Cote& cote : {Cote{&PointVek::x, 1.0, boite.Droite},
-                             Cote{&PointVek::x, -1.0, -boite.Gauche},
-                             Cote{&PointVek::y, 1.0, boite.Bas},
-                             Cote{&PointVek::y, -1.0, -boite.Haut}})
+    for (const Cote& cote :
+         {Cote{&PointVek::x, 1.0, boite.Droite}, Cote{&PointVek::x, -1.0, -boite.Gauche},
+          Cote{&PointVek::y, 1.0, boite.Bas}, Cote{&PointVek::y, -1.0, -boite.Haut}})
         CoupeContour(sommets, cote);
     return sommets;
 }

@@ -27,9 +27,9 @@ Ecrivain& Ecrivain::operator<<(bool valeur) {
 Ecrivain& Ecrivain::operator<<(double valeur) {
     char chiffres[32];
     const double fini = std::isfinite(valeur) ? valeur : 0.0;
-    const auto fin = std::to_chars(chiffres, chiffres + sizeof chiffres, fini,
-                                   std::chars_format::general, 6)
-                         .ptr;
+    const auto fin =
+        std::to_chars(chiffres, chiffres + sizeof chiffres, fini, std::chars_format::general, 6)
+            .ptr;
     Tampon.append(chiffres, fin);
     return *this;
 }

@@ -180,8 +180,8 @@ void EltArc::SetDebutPoint(const PointVek& p) {
 }
 
 void EltArc::SetFinPoint(const PointVek& p) {
-    Ouverture = Rayon >= vue::Epsilon() ? AngleReduit(AngleVers(p) - AngleDebut, vue::Epsilon())
-                                        : 0.0;
+    Ouverture =
+        Rayon >= vue::Epsilon() ? AngleReduit(AngleVers(p) - AngleDebut, vue::Epsilon()) : 0.0;
 }
 
 void EltArc::PlaceDebut(const PointVek& p) {

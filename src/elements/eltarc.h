@@ -108,7 +108,8 @@ class EltArc : public EltGeo {
     bool Tangent2Segments(const EltSegment& s1, const EltSegment& s2, const PointVek& p);
     bool TangentSegmentArc(const EltSegment& segment, const EltArc& arc, const PointVek& p);
     bool Tangent2Arcs(const EltArc& a1, const EltArc& a2, const PointVek& p);
-    bool Conge2Segments(const EltSegment& s1, const EltSegment& s2, const PointVek& p, double rayon);
+    bool Conge2Segments(const EltSegment& s1, const EltSegment& s2, const PointVek& p,
+                        double rayon);
     bool CongeSegmentArc(const EltSegment& segment, const EltArc& arc, const PointVek& p,
                          double rayon);
     bool Conge2Arcs(const EltArc& a1, const EltArc& a2, const PointVek& p, double rayon);

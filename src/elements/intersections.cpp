@@ -41,8 +41,7 @@ int IntersecteDroite(const EltSegment& droite, const EltArc& arc, PointVek& a, P
     const double carre = Scalaire(d, d);
     if (carre < vue::Epsilon()) return 0;
     const double moitie = Scalaire(w, d);
-    const double discriminant =
-        moitie * moitie - carre * (Scalaire(w, w) - arc.Rayon * arc.Rayon);
+    const double discriminant = moitie * moitie - carre * (Scalaire(w, w) - arc.Rayon * arc.Rayon);
     if (!(discriminant >= 0.0)) return 0;
     const double racine = std::sqrt(discriminant);
     a = droite.Origine + d * ((-moitie - racine) / carre);

@@ -14,8 +14,8 @@ bool EstArc(const EltGeo& elt);
 bool SeLitCommeSegment(const EltGeo& elt);
 
 /// Crossings of two segments, lines or arcs taken as endless lines and full circles: 0, 1 or 2
-/// points in a and b. A line and a circle, or two circles, give 2, equal where they touch. Any other
-/// type gives 0.
+/// points in a and b. A line and a circle, or two circles, give 2, equal where they touch. Any
+/// other type gives 0.
 int Intersecte(const EltGeo& e1, const EltGeo& e2, PointVek& a, PointVek& b);
 
 /// The crossings with a line, in the order from its origin to its end.

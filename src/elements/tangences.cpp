@@ -80,7 +80,8 @@ void EltArc::TangentPoint(const EltGeo& elt, const PointVek& p) {
 
 bool EltArc::Tangent2Elements(const EltGeo& premier, const EltGeo& second, const PointVek& p) {
     if (EstDroit(premier)) {
-        if (EstDroit(second)) return Tangent2Segments(CommeSegment(premier), CommeSegment(second), p);
+        if (EstDroit(second))
+            return Tangent2Segments(CommeSegment(premier), CommeSegment(second), p);
         if (EstArc(second)) return TangentSegmentArc(CommeSegment(premier), CommeArc(second), p);
         return TangentSegmentPoint(second, CommeSegment(premier));
     }
@@ -119,8 +120,8 @@ bool EltArc::Tangent2Segments(const EltSegment& s1, const EltSegment& s2, const 
 
 bool EltArc::TangentSegmentArc(const EltSegment& segment, const EltArc& arc, const PointVek& p) {
     // The centre is q + n s r, with q the foot of p on the line, n its normal, s the side and r the
-    // radius. Its distance to the arc's centre is R + r for a circle outside the arc's and R - r for
-    // one inside; squared, the terms in r^2 cancel and r follows.
+    // radius. Its distance to the arc's centre is R + r for a circle outside the arc's and R - r
+    // for one inside; squared, the terms in r^2 cancel and r follows.
     const PointVek q = segment.Projete(p);
     const PointVek n = Unitaire(Normale(segment.Extremite - segment.Origine));
     const PointVek w(q.x - arc.Position.x, q.y - arc.Position.y);
@@ -139,9 +140,9 @@ bool EltArc::TangentSegmentArc(const EltSegment& segment, const EltArc& arc, con
 }
 
 bool EltArc::Tangent2Arcs(const EltArc& a1, const EltArc& a2, const PointVek& p) {
-    // The centre is taken on the line from the first centre through p, at R1 + k from it: |k| is the
-    // radius, and k is negative for a circle on the inner side of the first one. Its distance to the
-    // second centre is R2 + k or R2 - k; squared, the terms in k^2 cancel and k follows.
+    // The centre is taken on the line from the first centre through p, at R1 + k from it: |k| is
+    // the radius, and k is negative for a circle on the inner side of the first one. Its distance
+    // to the second centre is R2 + k or R2 - k; squared, the terms in k^2 cancel and k follows.
     const PointVek v(a1.Position.x - a2.Position.x, a1.Position.y - a2.Position.y);
     PointVek vers(p.x - a1.Position.x, p.y - a1.Position.y);
     if (Norme(vers) < vue::Epsilon()) vers = Norme(v) < vue::Epsilon() ? PointVek(1.0, 0.0) : -v;

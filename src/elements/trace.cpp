@@ -45,8 +45,7 @@ Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteu
              const Gdk::Rectangle& exposee)
     : Trace(surface, largeur, hauteur) {
     const double x = exposee.get_x(), y = exposee.get_y();
-    Zone = {std::max(0.0, x), std::max(0.0, y),
-            std::min<double>(largeur, x + exposee.get_width()),
+    Zone = {std::max(0.0, x), std::max(0.0, y), std::min<double>(largeur, x + exposee.get_width()),
             std::min<double>(hauteur, y + exposee.get_height())};
 }
 
@@ -124,11 +123,10 @@ void Trace::AppliqueCouleur(const Gdk::Color& couleur) {
 }
 
 void Trace::AppliqueTuile(const Trait& trait) {
-    const bool posee = TuilePosee && trait.PasHachure == TraitTuile.PasHachure &&
-                       trait.AngleHachure == TraitTuile.AngleHachure &&
-                       trait.Epaisseur == TraitTuile.Epaisseur &&
-                       trait.Couleur == TraitTuile.Couleur &&
-                       trait.CouleurFond == TraitTuile.CouleurFond;
+    const bool posee =
+        TuilePosee && trait.PasHachure == TraitTuile.PasHachure &&
+        trait.AngleHachure == TraitTuile.AngleHachure && trait.Epaisseur == TraitTuile.Epaisseur &&
+        trait.Couleur == TraitTuile.Couleur && trait.CouleurFond == TraitTuile.CouleurFond;
     if (!posee) {
         TuilePosee = TuileHachure(Support, trait);
         TraitTuile = trait;
@@ -224,8 +222,8 @@ void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool
     if (!coin.EstFini() || !oppose.EstFini()) return;
     if (Envoyable.Contient(coin) && Envoyable.Contient(oppose)) {
         PlacePhase(0.0);
-        gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), plein, Pixels(coin.x),
-                           Pixels(coin.y), Pixels(largeur), Pixels(hauteur));
+        gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), plein, Pixels(coin.x), Pixels(coin.y),
+                           Pixels(largeur), Pixels(hauteur));
         return;
     }
     if (plein) {

@@ -10,8 +10,8 @@
 #include "elements/trait.h"
 
 /// Paints on a window or pixmap: the only place where elements and bands meet the toolkit's drawing
-/// calls. Coordinates are pixels in doubles, y downward; they are rounded here, and cut here to what
-/// the window system can take (16 bits): what lies outside the area is never sent.
+/// calls. Coordinates are pixels in doubles, y downward; they are rounded here, and cut here to
+/// what the window system can take (16 bits): what lies outside the area is never sent.
 class Trace {
   public:
     /// How a style is put on the context: a shape's surface takes its fill and hatch, anything else

@@ -20,8 +20,7 @@ void EcritCouleur(Ecrivain& sortie, const Gdk::Color& couleur) {
     static const char chiffres[] = "0123456789abcdef";
     char texte[13] = {'#'};
     int rang = 1;
-    for (const unsigned composante :
-         {couleur.get_red(), couleur.get_green(), couleur.get_blue()})
+    for (const unsigned composante : {couleur.get_red(), couleur.get_green(), couleur.get_blue()})
         for (int decalage = 12; decalage >= 0; decalage -= 4)
             texte[rang++] = chiffres[(composante >> decalage) & 0xf];
     sortie << std::string_view(texte, sizeof texte);

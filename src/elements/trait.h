@@ -11,7 +11,7 @@ enum StyleDeLigne { Continu = 0, Tirets = 1, Axe = 2, Pointille = 3 };
 /// file holds; they are bounded where they are painted.
 class Trait {
   public:
-    double PasHachure = 1.0;  ///< Distance between hatch lines, in pixels.
+    double PasHachure = 1.0;    ///< Distance between hatch lines, in pixels.
     double AngleHachure = 0.0;  ///< Radians, between -pi/2 and pi/2.
     int StyleLigne = Continu;
     int Hachure = 0;           ///< 1 hatched, 0 not.

@@ -55,8 +55,8 @@ int EpaisseurBornee(const Trait& trait) {
 
 Glib::RefPtr<Gdk::Pixmap> TuileHachure(const Glib::RefPtr<Gdk::Drawable>& surface,
                                        const Trait& trait) {
-    const DessinTuile d = Dispose(AngleHachureBorne(trait), PasHachureBorne(trait),
-                                  EpaisseurBornee(trait));
+    const DessinTuile d =
+        Dispose(AngleHachureBorne(trait), PasHachureBorne(trait), EpaisseurBornee(trait));
     const auto tuile = Gdk::Pixmap::create(surface, d.Largeur, d.Hauteur, surface->get_depth());
     tuile->set_colormap(surface->get_colormap());
     const auto cr = tuile->create_cairo_context();

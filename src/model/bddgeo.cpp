@@ -45,11 +45,9 @@ void BDDGeo::Dessine(Trace& trace) const {
     // Wide enough for the widest line and for what is painted at a fixed size in pixels.
     constexpr double marge = 150.0;
     const Boite pixels = trace.ZonePeinte().Elargie(marge);
-    const Boite zone =
-        Boite::Autour(EchelleCourante.VersDessin({pixels.Gauche, pixels.Haut}),
-                      EchelleCourante.VersDessin({pixels.Droite, pixels.Bas}));
-    Table.Parcourt(Elements, zone,
-                   [&](const EltGeo& elt) { DessineElement(trace, elt); });
+    const Boite zone = Boite::Autour(EchelleCourante.VersDessin({pixels.Gauche, pixels.Haut}),
+                                     EchelleCourante.VersDessin({pixels.Droite, pixels.Bas}));
+    Table.Parcourt(Elements, zone, [&](const EltGeo& elt) { DessineElement(trace, elt); });
 }
 
 EltGeo* BDDGeo::Ajoute(std::unique_ptr<EltGeo> elt) {

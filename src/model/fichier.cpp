@@ -50,8 +50,8 @@ bool EcritSurPlace(const std::string& chemin, std::string_view contenu) {
     return fichier.Ouvert() && EcritTout(*fichier, contenu) && fichier.Ferme();
 }
 
-/// What renaming over the file would lose: it is a link, or other names lead to it, or it may not be
-/// written.
+/// What renaming over the file would lose: it is a link, or other names lead to it, or it may not
+/// be written.
 bool RenommageInterdit(const std::string& chemin, const struct stat& ancien) {
     return !S_ISREG(ancien.st_mode) || ancien.st_nlink > 1 || access(chemin.c_str(), W_OK) != 0;
 }
@@ -70,9 +70,9 @@ Issue EcritACote(const std::string& chemin, std::string_view contenu) {
     const mode_t masque = umask(0);
     umask(masque);
     const mode_t droits = existe ? ancien.st_mode & 07777 : 0666 & ~masque;
-    const bool memeProprietaire =
-        !existe || (ancien.st_uid == geteuid() && ancien.st_gid == getegid()) ||
-        fchown(*fichier, ancien.st_uid, ancien.st_gid) == 0;
+    const bool memeProprietaire = !existe ||
+                                  (ancien.st_uid == geteuid() && ancien.st_gid == getegid()) ||
+                                  fchown(*fichier, ancien.st_uid, ancien.st_gid) == 0;
     if (!memeProprietaire) {
         unlink(provisoire.data());
         return Issue::Impossible;

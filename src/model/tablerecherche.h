@@ -6,8 +6,8 @@
 #include "elements/eltgeo.h"
 
 /// A compact image of a list of elements, made when it is first needed, through which a search
-/// measures only the few elements that can win and a repaint visits only those that may show. Whoever changes the list or an element's geometry
-/// calls `Perime`.
+/// measures only the few elements that can win and a repaint visits only those that may show.
+/// Whoever changes the list or an element's geometry calls `Perime`.
 class TableRecherche {
   public:
     void Perime() { AJour = false; }

@@ -9,8 +9,8 @@
 class ZoneDessin;
 
 /// One row of the tool machine: everything that it does in one state. A row is written as a chain
-/// that starts with its number, the first state of its tool's ring and its prompt; what is not named
-/// does nothing.
+/// that starts with its number, the first state of its tool's ring and its prompt; what is not
+/// named does nothing.
 class LigneEtat {
   public:
     LigneEtat(int numero, int premier, const char* invite)

@@ -2,9 +2,9 @@
 
 template <class Action>
 void Prototypes::Chacun(const Action& action) {
-    for (EltGeo* elt : {static_cast<EltGeo*>(&Droite), static_cast<EltGeo*>(&Segment),
-                        static_cast<EltGeo*>(&Arc), static_cast<EltGeo*>(&Disque),
-                        static_cast<EltGeo*>(&Rectangle)})
+    for (EltGeo* elt :
+         {static_cast<EltGeo*>(&Droite), static_cast<EltGeo*>(&Segment), static_cast<EltGeo*>(&Arc),
+          static_cast<EltGeo*>(&Disque), static_cast<EltGeo*>(&Rectangle)})
         action(*elt);
 }
 

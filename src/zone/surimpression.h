@@ -7,8 +7,8 @@
 #include "zone/bande.h"
 
 /// What lies over the picture of a window: the handles of the picked element, the preview of the
-/// tool, the snap marker. Each is painted with the exclusive-or function straight on the window, and
-/// this class knows what it painted: it can take it away again to the pixel.
+/// tool, the snap marker. Each is painted with the exclusive-or function straight on the window,
+/// and this class knows what it painted: it can take it away again to the pixel.
 class Surimpression {
   public:
     enum Place { Poignees, Apercu, Repere, NombrePlaces };

@@ -33,11 +33,10 @@ void ExigeEtat(int etat) {
 class TableEtats {
   public:
     TableEtats() : Rangs(NOMBRE_ETATS, nullptr) {
-        for (const auto famille :
-             {LignesEdition, LignesSegments, LignesCercles, LignesArcs, LignesTextes,
-              LignesCotesLineaires, LignesCotesCirculaires, LignesVue, LignesSelectionCollage,
-              LignesRectanglesPrimitives, LignesProfils, LignesSurfaces, LignesSoustractifs,
-              LignesTubes})
+        for (const auto famille : {LignesEdition, LignesSegments, LignesCercles, LignesArcs,
+                                   LignesTextes, LignesCotesLineaires, LignesCotesCirculaires,
+                                   LignesVue, LignesSelectionCollage, LignesRectanglesPrimitives,
+                                   LignesProfils, LignesSurfaces, LignesSoustractifs, LignesTubes})
             for (const LigneEtat& ligne : famille())
                 Lignes.push_back(ligne);
         for (const LigneEtat& ligne : Lignes)

@@ -58,8 +58,7 @@ bool ZoneDessin::on_expose_event(GdkEventExpose* evenement) {
     fenetre->get_size(largeur, hauteur);
     EchelleCourante.SetCentre(largeur, hauteur);
     const GdkRectangle& zone = evenement->area;
-    Trace trace(fenetre, largeur, hauteur,
-                Gdk::Rectangle(zone.x, zone.y, zone.width, zone.height));
+    Trace trace(fenetre, largeur, hauteur, Gdk::Rectangle(zone.x, zone.y, zone.width, zone.height));
     if (SelectionVisible) RectangleSelection.Dessine(trace);
     GrilleCourante.Dessine(trace, largeur, hauteur);
     BddCourante.Dessine(trace);

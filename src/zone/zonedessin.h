@@ -106,13 +106,13 @@ class ZoneDessin : public Gtk::DrawingArea {
     Prototypes Protos;
     EltRectangle RectangleSelection;  ///< The zone selection, in a style of its own.
     bool SelectionVisible = false;
-    EltGeo* EltCourant = nullptr;          ///< Found by the last pick; the drawing's.
-    EltGeo* EltCopie = nullptr;            ///< The second element of a tool; the drawing's.
-    std::unique_ptr<EltGeo> EltDeforme;    ///< The copy that a drag deforms.
-    PointVek PointDepart;                  ///< Reference point of a drag, or first point of an arc.
-    PointVek PointPrecedent;               ///< Second point of an arc.
-    double Rayon = 10.0;                   ///< Radius asked for last.
-    unsigned Touche = 0;                   ///< Key held, 0 after any release.
+    EltGeo* EltCourant = nullptr;        ///< Found by the last pick; the drawing's.
+    EltGeo* EltCopie = nullptr;          ///< The second element of a tool; the drawing's.
+    std::unique_ptr<EltGeo> EltDeforme;  ///< The copy that a drag deforms.
+    PointVek PointDepart;                ///< Reference point of a drag, or first point of an arc.
+    PointVek PointPrecedent;             ///< Second point of an arc.
+    double Rayon = 10.0;                 ///< Radius asked for last.
+    unsigned Touche = 0;                 ///< Key held, 0 after any release.
 
   protected:
     bool on_expose_event(GdkEventExpose* evenement) override;

@@ -91,8 +91,8 @@ TEST(Modifier, SeulLeControleGaucheCopie) {
 
 TEST(Modifier, RectangleRetourneResteOrdonne) {
     Banc banc;
-    auto* rectangle = static_cast<EltRectangle*>(
-        BddCourante.Ajoute(EltRectangle({-50, 40}, {50, -40}, 0)));
+    auto* rectangle =
+        static_cast<EltRectangle*>(BddCourante.Ajoute(EltRectangle({-50, 40}, {50, -40}, 0)));
     banc.Zone.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({-50, 0});
     banc.Souris.ClicA({50, -40});

@@ -159,8 +159,7 @@ std::vector<LigneEtat> LignesArcs() {
         LigneEtat(ETAT_ARC_RAYON_1, ETAT_ARC_RAYON_1, "Premier élément auquel le arc sera tangent")
             .Demande([](ZoneDessin& zone) { return zone.DemandeRayon(); })
             .AuClic(PrendAppui, ETAT_ARC_RAYON_2),
-        LigneEtat(ETAT_ARC_RAYON_2, ETAT_ARC_RAYON_1,
-                  "Deuxième élément auquel le arc sera tangent")
+        LigneEtat(ETAT_ARC_RAYON_2, ETAT_ARC_RAYON_1, "Deuxième élément auquel le arc sera tangent")
             .AuClic(PrendSecondAppui, ETAT_ARC_RAYON_3)
             .Montre(ApercuTangent),
         LigneEtat(ETAT_ARC_RAYON_3, ETAT_ARC_RAYON_1, "Choisir un des arcs")

@@ -125,8 +125,7 @@ bool FinOrtho(ZoneDessin& zone, const PointVek& p) {
 
 std::vector<LigneEtat> LignesSegments() {
     return {
-        LigneEtat(ETAT_DROITE_1, ETAT_DROITE_1, "premier point")
-            .AuClic(DebutDroite, ETAT_DROITE_2),
+        LigneEtat(ETAT_DROITE_1, ETAT_DROITE_1, "premier point").AuClic(DebutDroite, ETAT_DROITE_2),
         LigneEtat(ETAT_DROITE_2, ETAT_DROITE_1, "Deuxième point")
             .AuClic(FinDroite, ETAT_DROITE_1)
             .Montre(ApercuDroite),

@@ -1,0 +1,92 @@
+#include "bureau.h"
+
+#include <gdk/gdkkeysyms.h>
+#include <gtkmm/menubar.h>
+#include <gtkmm/separatormenuitem.h>
+#include <gtkmm/stock.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "model/bddgeo.h"
+#include "model/echelle.h"
+
+namespace {
+
+void Recolte(Gtk::MenuShell& menu, std::vector<Gtk::MenuItem*>& entrees) {
+    for (Gtk::Widget* enfant : menu.get_children()) {
+        auto* entree = dynamic_cast<Gtk::MenuItem*>(enfant);
+        if (!entree || dynamic_cast<Gtk::SeparatorMenuItem*>(enfant)) continue;
+        if (entree->has_submenu())
+            Recolte(*entree->get_submenu(), entrees);
+        else
+            entrees.push_back(entree);
+    }
+}
+
+void RecolteLibelles(Gtk::Widget& racine, std::vector<Gtk::Label*>& libelles) {
+    if (auto* libelle = dynamic_cast<Gtk::Label*>(&racine)) libelles.push_back(libelle);
+    if (auto* boite = dynamic_cast<Gtk::Container*>(&racine))
+        for (Gtk::Widget* enfant : boite->get_children())
+            RecolteLibelles(*enfant, libelles);
+}
+
+}  // namespace
+
+Bureau::Bureau() : Zone(*PremierDe<ZoneDessin>(Fenetre)), Souris(Zone) {
+    BddCourante.Vide();
+    BddCourante.SetCalqueAffiche(-1);
+    EchelleCourante.ZoomInit();
+    Fenetre.show();
+    LaisseTourner();
+}
+
+Bureau::~Bureau() {
+    BddCourante.Vide();
+}
+
+std::vector<Gtk::MenuItem*> Bureau::Entrees() {
+    std::vector<Gtk::MenuItem*> entrees;
+    Recolte(*PremierDe<Gtk::MenuBar>(Fenetre), entrees);
+    return entrees;
+}
+
+std::string NomAction(Gtk::MenuItem& entree) {
+    GtkAction* action = gtk_activatable_get_related_action(GTK_ACTIVATABLE(entree.gobj()));
+    return action ? gtk_action_get_name(action) : "";
+}
+
+void Bureau::Choisit(const std::string& action) {
+    for (Gtk::MenuItem* entree : Entrees()) {
+        if (NomAction(*entree) != action) continue;
+        entree->activate();
+        LaisseTourner();
+        return;
+    }
+    throw std::runtime_error("no entry " + action);
+}
+
+void Bureau::Frappe(unsigned touche, unsigned modificateurs) {
+    GdkEvent evenement = {};
+    evenement.key.window = Fenetre.get_window()->gobj();
+    evenement.key.keyval = touche;
+    evenement.key.state = modificateurs;
+    GdkKeymapKey* codes = nullptr;
+    int nombre = 0;
+    if (gdk_keymap_get_entries_for_keyval(nullptr, touche, &codes, &nombre) && nombre > 0)
+        evenement.key.hardware_keycode = static_cast<guint16>(codes[0].keycode);
+    g_free(codes);
+    for (const GdkEventType genre : {GDK_KEY_PRESS, GDK_KEY_RELEASE}) {
+        evenement.type = genre;
+        gtk_widget_event(GTK_WIDGET(Fenetre.gobj()), &evenement);
+    }
+    LaisseTourner();
+}
+
+Gtk::Label& Bureau::LibelleCommencant(const std::string& debut) {
+    std::vector<Gtk::Label*> libelles;
+    RecolteLibelles(Fenetre, libelles);
+    for (Gtk::Label* libelle : libelles)
+        if (libelle->get_text().raw().compare(0, debut.size(), debut) == 0) return *libelle;
+    throw std::runtime_error("no label " + debut);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <gtkmm/menuitem.h>
+
+#include <string>
+#include <vector>
+
+#include "commun/banc.h"
+#include "window/dessinwindow.h"
+
+/// Name of the action behind an entry of the menus; empty when there is none.
+std::string NomAction(Gtk::MenuItem& entree);
+
+/// The whole program on an empty drawing, with its menus within reach.
+class Bureau {
+  public:
+    Bureau();
+    ~Bureau();
+
+    /// Every entry of the menus that opens no submenu, in order.
+    std::vector<Gtk::MenuItem*> Entrees();
+
+    /// Chooses the entry of that action.
+    void Choisit(const std::string& action);
+
+    /// Presses and releases a key, as the window receives it.
+    void Frappe(unsigned touche, unsigned modificateurs = 0);
+
+    Gtk::Label& LibelleCommencant(const std::string& debut);
+
+    DessinWindow Fenetre;
+    ZoneDessin& Zone;
+    Main Souris;
+};

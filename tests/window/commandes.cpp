@@ -1,0 +1,210 @@
+// The commands of the menus, through the menus, with their questions answered.
+
+#include <gdk/gdkkeysyms.h>
+#include <glib/gstdio.h>
+#include <gtest/gtest.h>
+#include <gtkmm/entry.h>
+#include <gtkmm/filechooserdialog.h>
+#include <gtkmm/messagedialog.h>
+#include <gtkmm/table.h>
+
+#include <set>
+
+#include "bureau.h"
+#include "elements/eltsegment.h"
+#include "model/bddgeo.h"
+#include "model/echelle.h"
+#include "model/fichier.h"
+#include "window/actions.h"
+#include "window/donnees.h"
+#include "zone/etats.h"
+
+namespace {
+
+const std::string& Dossier() {
+    static const std::string dossier = [] {
+        char modele[] = "/tmp/krvek-fichiers-XXXXXX";
+        return std::string(g_mkdtemp(modele));
+    }();
+    return dossier;
+}
+
+void AjouteSegment() {
+    BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
+}
+
+/// Answers the next chooser with a file name.
+void RepondFichier(const std::string& nom, int reponse = Gtk::RESPONSE_OK) {
+    RepondDialogue(reponse, [nom](Gtk::Dialog& dialogue) {
+        Gtk::FileChooser& choix = dynamic_cast<Gtk::FileChooserDialog&>(dialogue);
+        if (choix.get_action() == Gtk::FILE_CHOOSER_ACTION_SAVE) {
+            choix.set_current_folder(g_path_get_dirname(nom.c_str()));
+            choix.set_current_name(g_path_get_basename(nom.c_str()));
+        } else {
+            choix.set_filename(nom);
+        }
+        for (int i = 0; i < 20; ++i) {
+            LaisseTourner();
+            g_usleep(10000);
+        }
+    });
+}
+
+/// Answers the next style dialog after typing the line width.
+void RepondTrait(const std::string& epaisseur, int reponse) {
+    RepondDialogue(reponse, [epaisseur](Gtk::Dialog& dialogue) {
+        // A table gives its children from the last to the first.
+        Gtk::Entry* premiere = nullptr;
+        for (Gtk::Widget* enfant : PremierDe<Gtk::Table>(dialogue)->get_children())
+            if (auto* saisie = dynamic_cast<Gtk::Entry*>(enfant)) premiere = saisie;
+        premiere->set_text(epaisseur);
+    });
+}
+
+bool FermeParLeGestionnaire(Bureau& bureau) {
+    GdkEvent evenement = {};
+    evenement.any.type = GDK_DELETE;
+    evenement.any.window = bureau.Fenetre.get_window()->gobj();
+    return !gtk_widget_event(GTK_WIDGET(bureau.Fenetre.gobj()), &evenement);
+}
+
+}  // namespace
+
+TEST(Actions, ChaqueIconeEtChaqueNomExistent) {
+    std::set<std::string> noms;
+    for (const LigneAction& ligne : TableActions()) {
+        EXPECT_TRUE(noms.insert(ligne.Nom).second) << ligne.Nom << " stands twice";
+        if (ligne.Forme != LigneAction::Icone) continue;
+        const std::string image =
+            DossierDonnees() + "/icons/hicolor/scalable/actions/" + ligne.Image + ".svg";
+        EXPECT_EQ(g_access(image.c_str(), R_OK), 0) << image;
+    }
+    EXPECT_EQ(noms.size(), 119u);
+}
+
+TEST(Actions, LesLettresNuesEtLesTouchesArriventUneFois) {
+    Bureau bureau;
+    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.0");
+    bureau.Choisit("Segment");
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_SEGMENT_1);
+    EXPECT_EQ(bureau.LibelleCommencant("Position de l'origine").get_text(),
+              "Position de l'origine du segment");
+    bureau.Frappe(GDK_s);
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_SUPPRIME);
+    bureau.Frappe(GDK_o);
+    EXPECT_EQ(EchelleCourante.Facteur, 2.0);
+    bureau.Frappe(GDK_l);
+    bureau.Frappe(GDK_Up);
+    EXPECT_EQ(EchelleCourante.Origine.y, 10.0);
+    bureau.Frappe(GDK_g);
+    EXPECT_TRUE(bureau.Zone.GrilleDuMoment().Affichee);
+    bureau.Frappe(GDK_Escape);
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    bureau.Frappe(GDK_space);
+    bureau.Frappe(GDK_Return);
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.0") << "no tool button was fired";
+}
+
+TEST(Fichiers, EnregistrerRouvrirAvecAccents) {
+    Bureau bureau;
+    const std::string nom = Dossier() + "/pièce à 100% n°1";
+    AjouteSegment();
+    RepondFichier(nom);
+    bureau.Choisit("Save");
+    EXPECT_EQ(BddCourante.NomFichier, nom + ".vek");
+    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           " + nom + ".vek");
+    EXPECT_FALSE(BddCourante.Modifie);
+
+    bureau.Choisit("New");
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
+    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           ");
+    RepondFichier(nom + ".vek");
+    bureau.Choisit("Open");
+    ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
+    EXPECT_TRUE(BddCourante.Nomme);
+
+    // A name completed by its extension that names a file is asked about; "non" asks anew.
+    AjouteSegment();
+    RepondFichier(nom);
+    bool demande = false;
+    Glib::signal_timeout().connect(
+        [&demande] {
+            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+                auto* question = dynamic_cast<Gtk::MessageDialog*>(fenetre);
+                if (!question || !question->get_mapped()) continue;
+                demande = true;
+                question->response(Gtk::RESPONSE_CANCEL);
+                RepondDialogue(Gtk::RESPONSE_CANCEL);
+                return false;
+            }
+            return true;
+        },
+        50);
+    bureau.Choisit("SaveAs");
+    EXPECT_TRUE(demande);
+    std::string texte;
+    ASSERT_TRUE(LitFichier(nom + ".vek", texte));
+    EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n2\n") << "the file is the former one";
+}
+
+TEST(Fermeture, NeFermeQueSiOnLeVeut) {
+    Bureau bureau;
+    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "nothing to save, no question";
+    AjouteSegment();
+
+    // Without a name: the chooser. Escape and the close button are a cancel.
+    RepondDialogue(Gtk::RESPONSE_DELETE_EVENT);
+    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
+    RepondDialogue(Gtk::RESPONSE_CANCEL);
+    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
+    RepondDialogue(Gtk::RESPONSE_NO);
+    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture());
+    EXPECT_TRUE(BddCourante.Modifie);
+
+    // With a name: the question.
+    BddCourante.EnregistreSous(Dossier() + "/ferme.vek");
+    AjouteSegment();
+    RepondDialogue(Gtk::RESPONSE_DELETE_EVENT);
+    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
+    EXPECT_TRUE(BddCourante.Modifie);
+    RepondDialogue(Gtk::RESPONSE_OK);
+    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture());
+    EXPECT_FALSE(BddCourante.Modifie);
+    std::string texte;
+    ASSERT_TRUE(LitFichier(Dossier() + "/ferme.vek", texte));
+    EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n3\n");
+}
+
+TEST(Reglages, CalquesGrilleEtTrait) {
+    Bureau bureau;
+    RepondSaisie("4");
+    bureau.Choisit("CalqueCourant");
+    EXPECT_EQ(bureau.LibelleCommencant("Travail").get_text(), "Travail sur 4");
+    bureau.Choisit("Segment");
+    bureau.Souris.ClicA({0, 0});
+    bureau.Souris.ClicA({50, 0});
+    EXPECT_EQ(BddCourante.Elements.Premier()->Calque, 4);
+    RepondSaisie("2");
+    bureau.Choisit("CalquesAfficher");
+    EXPECT_EQ(bureau.LibelleCommencant("Affiché").get_text(), "Affiché 2");
+    EXPECT_EQ(BddCourante.Cherche({25, 0}), nullptr) << "hidden elements are not found";
+
+    RepondSaisie("2,5");
+    bureau.Choisit("GrillePas");
+    EXPECT_EQ(bureau.Zone.PasGrille(), 2.5);
+    for (const char* mauvais : {"1e400", "-3", "abc"}) {
+        RepondSaisie(mauvais);
+        bureau.Choisit("GrillePas");
+        EXPECT_EQ(bureau.Zone.PasGrille(), 2.5) << mauvais;
+    }
+
+    RepondTrait("7", Gtk::RESPONSE_OK);
+    bureau.Choisit("Trait");
+    EXPECT_EQ(bureau.Zone.Trait().Epaisseur, 7);
+    EXPECT_EQ(bureau.Zone.Trait().PasHachure, 1.0) << "what was not edited stays";
+    RepondTrait("9", Gtk::RESPONSE_CANCEL);
+    bureau.Choisit("Trait");
+    EXPECT_EQ(bureau.Zone.Trait().Epaisseur, 7);
+}
