@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 constexpr double Pi = 3.14159265358979323846;
@@ -19,9 +20,10 @@ inline double DegresEntiers(double radians) {
     return std::ceil(EnDegres(radians) - 0.001);
 }
 
-/// An angle (radians) brought into [0, 2 pi); what lies within epsilon below 0 is 0.
+/// An angle (radians) brought into [0, 2 pi); what lies within epsilon below 0, and no more than
+/// rounding makes it, is 0.
 inline double AngleReduit(double angle, double epsilon) {
     double reste = std::fmod(angle, DeuxPi);
-    if (reste < -epsilon) reste += DeuxPi;
+    if (reste < -std::min(epsilon, 1e-6)) reste += DeuxPi;
     return reste < 0.0 ? 0.0 : reste;
 }

@@ -14,6 +14,12 @@ struct Boite {
                 a.y < b.y ? b.y : a.y};
     }
 
+    /// The box that holds p too.
+    Boite Avec(const PointVek& p) const {
+        return {p.x < Gauche ? p.x : Gauche, p.y < Haut ? p.y : Haut, p.x > Droite ? p.x : Droite,
+                p.y > Bas ? p.y : Bas};
+    }
+
     Boite Elargie(double marge) const {
         return {Gauche - marge, Haut - marge, Droite + marge, Bas + marge};
     }

@@ -1,21 +1,11 @@
 #include "elements/coupe.h"
 
+#include <array>
 #include <cmath>
 
 #include "elements/angles.h"
 
 namespace {
-
-/// Narrows [t0, t1] to where origine + t * pas is at most limite.
-bool CoupeCote(double origine, double pas, double limite, double& t0, double& t1) {
-    if (pas == 0.0) return origine <= limite;
-    const double t = (limite - origine) / pas;
-    if (pas > 0.0)
-        t1 = t < t1 ? t : t1;
-    else
-        t0 = t > t0 ? t : t0;
-    return t0 <= t1;
-}
 
 /// One side of the box: what lies beyond limite along the axis, seen with signe, is cut away.
 struct Cote {
@@ -24,7 +14,19 @@ struct Cote {
     double Limite;
 
     double Depassement(const PointVek& p) const { return Signe * p.*Axe - Limite; }
+
+    /// Where a b meets the side: exactly on it, however far away the two points are.
+    PointVek Croisement(const PointVek& a, const PointVek& b, double da, double db) const {
+        PointVek c = a + (b - a) * (da / (da - db));
+        c.*Axe = Signe * Limite;
+        return c;
+    }
 };
+
+std::array<Cote, 4> Cotes(const Boite& boite) {
+    return {Cote{&PointVek::x, 1.0, boite.Droite}, Cote{&PointVek::x, -1.0, -boite.Gauche},
+            Cote{&PointVek::y, 1.0, boite.Bas}, Cote{&PointVek::y, -1.0, -boite.Haut}};
+}
 
 void CoupeContour(std::vector<PointVek>& sommets, const Cote& cote) {
     std::vector<PointVek> garde;
@@ -36,7 +38,7 @@ void CoupeContour(std::vector<PointVek>& sommets, const Cote& cote) {
         const double d1 = cote.Depassement(suivant);
         if (d0 <= 0.0) garde.push_back(ici);
         if ((d0 < 0.0 && d1 > 0.0) || (d0 > 0.0 && d1 < 0.0))
-            garde.push_back(ici + (suivant - ici) * (d0 / (d0 - d1)));
+            garde.push_back(cote.Croisement(ici, suivant, d0, d1));
     }
     sommets.swap(garde);
 }
@@ -59,17 +61,20 @@ void Subdivise(const ArcEcran& arc, double a0, double a1, const Boite& boite, in
 
 }  // namespace
 
-bool CoupeLigne(const PointVek& a, const PointVek& b, const Boite& boite, double& t0, double& t1) {
-    const PointVek d = b - a;
-    return CoupeCote(a.x, d.x, boite.Droite, t0, t1) &&
-           CoupeCote(-a.x, -d.x, -boite.Gauche, t0, t1) && CoupeCote(a.y, d.y, boite.Bas, t0, t1) &&
-           CoupeCote(-a.y, -d.y, -boite.Haut, t0, t1);
+bool CoupeLigne(PointVek& a, PointVek& b, const Boite& boite) {
+    for (const Cote& cote : Cotes(boite)) {
+        const double da = cote.Depassement(a), db = cote.Depassement(b);
+        if (da > 0.0 && db > 0.0) return false;
+        if (da > 0.0)
+            a = cote.Croisement(a, b, da, db);
+        else if (db > 0.0)
+            b = cote.Croisement(b, a, db, da);
+    }
+    return true;
 }
 
 std::vector<PointVek> CoupePolygone(std::vector<PointVek> sommets, const Boite& boite) {
-    for (const Cote& cote :
-         {Cote{&PointVek::x, 1.0, boite.Droite}, Cote{&PointVek::x, -1.0, -boite.Gauche},
-          Cote{&PointVek::y, 1.0, boite.Bas}, Cote{&PointVek::y, -1.0, -boite.Haut}})
+    for (const Cote& cote : Cotes(boite))
         CoupeContour(sommets, cote);
     return sommets;
 }

@@ -7,9 +7,8 @@
 /// Cutting of lines, polygons and arcs to a box, in doubles. All coordinates are pixels, y
 /// downward.
 
-/// Cuts the line a b to the box, for parameters from t0 (0 at a) to t1 (1 at b), which come back
-/// narrowed. False when nothing of it lies in the box.
-bool CoupeLigne(const PointVek& a, const PointVek& b, const Boite& boite, double& t0, double& t1);
+/// Cuts the segment a b to the box. False when nothing of it lies there.
+bool CoupeLigne(PointVek& a, PointVek& b, const Boite& boite);
 
 /// The part of a filled polygon that lies in the box; its edges may run along the border.
 std::vector<PointVek> CoupePolygone(std::vector<PointVek> sommets, const Boite& boite);

@@ -9,6 +9,7 @@
 #include "elements/eltsegment.h"
 #include "elements/lecteur.h"
 #include "elements/trace.h"
+#include "elements/tuile.h"
 #include "elements/vue.h"
 
 EltArc::EltArc(int type) : EltGeo(type), Ouverture(DeuxPi) {}
@@ -49,12 +50,15 @@ void EltArc::Dessine(Trace& trace) const {
 
 void EltArc::DessinePlein(Trace& trace) const {
     const ArcEcran arc = VersEcran();
-    if (!trace.Touche(Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon), Style)) return;
-    trace.AppliqueTrait(Style, Trace::Surface);
-    trace.Arc(arc, true);
-    if (!Style.Remplissage || !Style.Contour) return;
-    trace.AppliqueTrait(Style, Trace::Ligne);
-    trace.Arc(arc, false);
+    const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);
+    if (!trace.Touche(boite, Style)) return;
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style)), [&](Trace& t) {
+        t.AppliqueTrait(Style, Trace::Surface);
+        t.Arc(arc, true);
+        if (!Style.Remplissage || !Style.Contour) return;
+        t.AppliqueTrait(Style, Trace::Ligne);
+        t.Arc(arc, false);
+    });
 }
 
 void EltArc::DessinePoignees(Trace& trace) const {
@@ -133,9 +137,13 @@ PointVek EltArc::Direction() const {
     return {0.0, Rayon};
 }
 
-bool EltArc::EstValide() const {
+bool EltArc::EstFini() const {
     return Position.EstFini() && std::isfinite(Rayon) && std::isfinite(AngleDebut) &&
-           std::isfinite(Ouverture) && Rayon >= vue::Epsilon();
+           std::isfinite(Ouverture);
+}
+
+bool EltArc::EstValide() const {
+    return EstFini() && Rayon >= vue::Epsilon();
 }
 
 PointVek EltArc::Debut() const {

@@ -44,6 +44,7 @@ class EltArc : public EltGeo {
 
     /// (0, radius).
     PointVek Direction() const override;
+    bool EstFini() const override;
     bool EstValide() const override;
 
     PointVek Debut() const;

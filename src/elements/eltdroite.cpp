@@ -36,6 +36,11 @@ double EltDroite::Distance(const PointVek& p) const {
     return DistanceSupport(p);
 }
 
+Minorant EltDroite::MinorantDistance() const {
+    // A null one is measured to its point but painted as a vertical line.
+    return Longueur() > 0.0 ? EltSegment::MinorantDistance() : Minorant::Nul();
+}
+
 void EltDroite::SetOrigine(const PointVek& p) {
     SetPoints(p, p + (Extremite - Origine));
 }

@@ -17,6 +17,7 @@ class EltDroite : public EltSegment {
     void DessinePoignees(Trace& trace) const override;
     void ChangeTrait(const Trait& trait) override;
     double Distance(const PointVek& p) const override;
+    Minorant MinorantDistance() const override;
 
     /// Moves the whole line.
     void SetOrigine(const PointVek& p) override;

@@ -108,8 +108,12 @@ PointVek EltGeo::Direction() const {
     return {1.0, 1.0};
 }
 
-bool EltGeo::EstValide() const {
+bool EltGeo::EstFini() const {
     return Position.EstFini();
+}
+
+bool EltGeo::EstValide() const {
+    return EstFini();
 }
 
 void EltGeo::AjouteFils(EltGeo* fils) {

@@ -84,8 +84,10 @@ class EltGeo {
     /// A vector along the element; null when the element is too small to be kept.
     virtual PointVek Direction() const;
 
-    /// False for what must not enter a drawing: a coordinate that is not finite, an element
-    /// smaller than `Epsilon`.
+    /// False when a coordinate or a measure is not finite.
+    virtual bool EstFini() const;
+
+    /// False for what must not enter a drawing: what is not finite, or smaller than `Epsilon`.
     virtual bool EstValide() const;
 
     void AjouteFils(EltGeo* fils);

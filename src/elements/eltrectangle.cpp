@@ -5,6 +5,7 @@
 
 #include "elements/distances.h"
 #include "elements/trace.h"
+#include "elements/tuile.h"
 #include "elements/vue.h"
 
 EltRectangle::EltRectangle() : EltSegment(TypeRectangle) {}
@@ -24,12 +25,20 @@ void EltRectangle::Dessine(Trace& trace) const {
     double largeur = std::round(b.x - a.x), hauteur = std::round(b.y - a.y);
     // A rectangle without area stays visible, so that it can be picked.
     if (largeur < 1.0 || hauteur < 1.0) largeur = hauteur = 10.0;
-    if (!trace.Touche(Boite::Autour(a, a + PointVek(largeur, hauteur)), Style)) return;
-    trace.AppliqueTrait(Style, Style.Remplissage ? Trace::Surface : Trace::Ligne);
-    trace.Rectangle(a, largeur, hauteur, Style.Remplissage);
-    if (!Style.Remplissage || !Style.Contour) return;
-    trace.AppliqueTrait(Style, Trace::Ligne);
-    trace.Rectangle(a, largeur, hauteur, false);
+    const Boite boite = Boite::Autour(a, a + PointVek(largeur, hauteur));
+    if (!trace.Touche(boite, Style)) return;
+    if (!Style.Remplissage) {
+        trace.AppliqueTrait(Style, Trace::Ligne);
+        trace.Rectangle(a, largeur, hauteur, false);
+        return;
+    }
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style) + 2.0), [&](Trace& t) {
+        t.AppliqueTrait(Style, Trace::Surface);
+        t.Rectangle(a, largeur, hauteur, true);
+        if (!Style.Contour) return;
+        t.AppliqueTrait(Style, Trace::Ligne);
+        t.Rectangle(a, largeur, hauteur, false);
+    });
 }
 
 void EltRectangle::DessinePoignees(Trace& trace) const {

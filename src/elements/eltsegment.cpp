@@ -116,8 +116,12 @@ PointVek EltSegment::Direction() const {
     return (Extremite - Origine) / Longueur();
 }
 
+bool EltSegment::EstFini() const {
+    return Origine.EstFini() && Extremite.EstFini();
+}
+
 bool EltSegment::EstValide() const {
-    return Origine.EstFini() && Extremite.EstFini() && Longueur() >= vue::Epsilon();
+    return EstFini() && Longueur() >= vue::Epsilon();
 }
 
 void EltSegment::SetOrigine(const PointVek& p) {
@@ -140,7 +144,7 @@ void EltSegment::SetExtremite(const PointVek& p) {
     SetPoints(Origine, p);
 }
 
-void EltSegment::SetPoints(const PointVek& origine, const PointVek& extremite) {
+void EltSegment::SetPoints(PointVek origine, PointVek extremite) {
     Origine = origine;
     Extremite = extremite;
     Recalcule();
@@ -245,6 +249,8 @@ bool EltSegment::Tangente2Arcs(const PointVek& p, const EltGeo& premier, const E
 
     // Both contacts lie along one unit vector from their centres, on the far side of the second
     // circle for an inner tangent; its angle to v follows from the tangent being at right angle.
+    // Tangents that cross at their middles are as near as each other, whatever the last digit says.
+    const double egales = 1e-9 * (n + r1 + r2);
     double meilleure = HUGE_VAL;
     PointVek p1, p2;
     for (const double signe : {1.0, -1.0}) {
@@ -254,8 +260,10 @@ bool EltSegment::Tangente2Arcs(const PointVek& p, const EltGeo& premier, const E
         for (const double th : {::Angle(v) + b, ::Angle(v) - b}) {
             const PointVek q1 = PointPolaire(c1, r1, th);
             const PointVek q2 = PointPolaire(c2, signe * r2, th);
+            // Where the circles touch, the contacts are one point.
+            if (::Distance(q1, q2) < vue::Epsilon()) continue;
             const double d = ::Distance((q1 + q2) / 2.0, p);
-            if (!(d < meilleure)) continue;
+            if (!(d < meilleure - egales)) continue;
             meilleure = d;
             p1 = q1;
             p2 = q2;

@@ -32,6 +32,7 @@ class EltSegment : public EltGeo {
 
     /// Unit vector from origin to end; not a number for a null segment.
     PointVek Direction() const override;
+    bool EstFini() const override;
     bool EstValide() const override;
 
     virtual void SetOrigine(const PointVek& p);
@@ -43,7 +44,7 @@ class EltSegment : public EltGeo {
     void SetAngle(double angle);
 
     void SetExtremite(const PointVek& p);
-    void SetPoints(const PointVek& origine, const PointVek& extremite);
+    void SetPoints(PointVek origine, PointVek extremite);
 
     /// Grows the segment symmetrically about its unchanged middle, up to p.
     void SetExtremiteSymetrique(const PointVek& p);

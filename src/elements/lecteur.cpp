@@ -1,5 +1,8 @@
 #include "elements/lecteur.h"
 
+#include <glib.h>
+
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <type_traits>
@@ -30,7 +33,14 @@ Lecteur& Lecteur::Nombre(T& valeur) {
     T lue{};
     const auto [suite, erreur] = std::from_chars(debut, Borne, lue);
     bool bonne = erreur == std::errc();
-    if constexpr (std::is_floating_point_v<T>) bonne = bonne && std::isfinite(lue);
+    if constexpr (std::is_floating_point_v<T>) {
+        // A number too small to be told from 0 is read all the same.
+        if (erreur == std::errc::result_out_of_range) {
+            lue = g_ascii_strtod(std::string(debut, suite).c_str(), nullptr);
+            bonne = true;
+        }
+        bonne = bonne && std::isfinite(lue);
+    }
     if (bonne) {
         valeur = lue;
         Position = suite;
@@ -67,6 +77,23 @@ std::string_view Lecteur::Mot() {
     return {debut, static_cast<std::size_t>(Position - debut)};
 }
 
+std::string_view Lecteur::Ligne() {
+    if (EnEchec) return {};
+    if (Position == Borne) {
+        AuBout = EnEchec = true;
+        return {};
+    }
+    const char* debut = Position;
+    const char* fin = std::find(Position, Borne, '\n');
+    Position = fin;
+    if (fin == Borne)
+        AuBout = true;
+    else
+        ++Position;
+    if (fin != debut && fin[-1] == '\r') --fin;
+    return {debut, static_cast<std::size_t>(fin - debut)};
+}
+
 void Lecteur::RefuseVersion(std::string_view mot) {
-    if (Refusee.empty()) Refusee = mot.empty() ? " " : std::string(mot);
+    if (!Refusee) Refusee = std::string(mot);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,11 +30,13 @@ class Lecteur {
     /// The next blank-delimited word; empty, with failure, when there is none.
     std::string_view Mot();
 
+    /// The rest of the present line, without its end; empty, with failure, at the end of the text.
+    std::string_view Ligne();
+
     /// Notes the first version word that could not be accepted, for whoever started the load.
     void RefuseVersion(std::string_view mot);
 
-    /// Empty when no version was refused.
-    const std::string& VersionRefusee() const { return Refusee; }
+    const std::optional<std::string>& VersionRefusee() const { return Refusee; }
 
   private:
     template <class T>
@@ -44,5 +47,5 @@ class Lecteur {
     const char* Borne;
     bool EnEchec = false;
     bool AuBout = false;
-    std::string Refusee;
+    std::optional<std::string> Refusee;
 };

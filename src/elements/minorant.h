@@ -27,6 +27,11 @@ class Minorant {
         return {Rond, centre.x, centre.y, rayon, 0.0};
     }
 
+    /// Distance to the point; what is painted reaches at most portee from it.
+    static Minorant Point(const PointVek& p, double portee) {
+        return {Pointu, p.x, p.y, 0.0, portee};
+    }
+
     /// Distance to the box with opposite corners a and b, 0 inside.
     static Minorant Rectangle(const PointVek& a, const PointVek& b) {
         return {Cadre, std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x),
@@ -41,6 +46,8 @@ class Minorant {
                 const double d = Longueur(p.x - A, p.y - B);
                 return std::min(d, std::abs(d - C));
             }
+            case Pointu:
+                return Longueur(p.x - A, p.y - B);
             case Cadre:
                 return Longueur(std::max({A - p.x, 0.0, p.x - C}),
                                 std::max({B - p.y, 0.0, p.y - D}));
@@ -60,6 +67,8 @@ class Minorant {
             }
             case Rond:
                 return boite.Touche({A - C, B - C, A + C, B + C});
+            case Pointu:
+                return boite.Touche({A - D, B - D, A + D, B + D});
             case Cadre:
                 return boite.Touche({A, B, C, D});
             default:
@@ -68,7 +77,7 @@ class Minorant {
     }
 
   private:
-    enum Forme { Aucun, Ligne, Rond, Cadre };
+    enum Forme { Aucun, Ligne, Rond, Pointu, Cadre };
 
     Minorant(Forme genre, double a, double b, double c, double d)
         : Genre(genre), A(a), B(b), C(c), D(d) {}

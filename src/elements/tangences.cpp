@@ -63,6 +63,11 @@ EltSegment DecalageSegment(const EltSegment& segment, const PointVek& p, double 
     return decale;
 }
 
+/// False for a null segment, which has no direction to be tangent to.
+bool EstAppui(const EltGeo& elt) {
+    return !SeLitCommeSegment(elt) || elt.EstValide();
+}
+
 PointVek PlusProcheDes2(const PointVek& p, const PointVek& a, const PointVek& b) {
     return Distance(p, b) <= Distance(p, a) ? b : a;
 }
@@ -79,6 +84,7 @@ void EltArc::TangentPoint(const EltGeo& elt, const PointVek& p) {
 }
 
 bool EltArc::Tangent2Elements(const EltGeo& premier, const EltGeo& second, const PointVek& p) {
+    if (!EstAppui(premier) || !EstAppui(second)) return false;
     if (EstDroit(premier)) {
         if (EstDroit(second))
             return Tangent2Segments(CommeSegment(premier), CommeSegment(second), p);
@@ -104,24 +110,30 @@ bool EltArc::TangentSegmentPoint(const EltGeo& point, const EltSegment& segment)
 }
 
 bool EltArc::Tangent2Segments(const EltSegment& s1, const EltSegment& s2, const PointVek& p) {
-    PointVek sommet, centre;
-    if (s1.Intersection(s2, sommet)) {
-        // The centre lies on one of the two bisectors.
-        const PointVek u1 = s1.Direction(), u2 = s2.Direction();
-        centre = PlusProcheDes2(p, Projection(p, sommet, sommet + u1 + u2),
-                                Projection(p, sommet, sommet + u1 - u2));
-    } else {
-        const PointVek milieu = (s1.Position + s2.Position) / 2.0;
-        centre = Projection(p, milieu, milieu + s1.Direction());
+    // The centre is the foot of p on a bisector of the two lines, where the signed distances to
+    // them are equal or opposite. Worked out from p and not from the crossing, which is far away
+    // and ill known when the lines are nearly parallel; where they are parallel one of the two
+    // bisectors is the line in their middle and the other does not exist.
+    const PointVek n1 = Normale(s1.Direction()), n2 = Normale(s2.Direction());
+    const double d1 = Scalaire(n1, p - s1.Origine), d2 = Scalaire(n2, p - s2.Origine);
+    std::vector<Cercle> candidats;
+    for (const double signe : {-1.0, 1.0}) {
+        const PointVek n = n1 - n2 * signe;
+        const double carre = Scalaire(n, n);
+        if (carre < 1e-24) continue;
+        const PointVek centre = p - n * ((d1 - d2 * signe) / carre);
+        candidats.push_back({centre, std::abs(Scalaire(n1, centre - s1.Origine))});
     }
-    FaitCercle(centre, ::Distance(centre, s1.Projete(centre)));
+    const Cercle* choisi = PlusProcheCercle(candidats, p);
+    if (!choisi) return false;
+    FaitCercle(choisi->Centre, choisi->Rayon);
     return true;
 }
 
 bool EltArc::TangentSegmentArc(const EltSegment& segment, const EltArc& arc, const PointVek& p) {
     // The centre is q + n s r, with q the foot of p on the line, n its normal, s the side and r the
-    // radius. Its distance to the arc's centre is R + r for a circle outside the arc's and R - r
-    // for one inside; squared, the terms in r^2 cancel and r follows.
+    // radius. Its distance to the arc's centre is R + r for a circle outside the arc's and
+    // |R - r| for one inside or around it; squared, the terms in r^2 cancel and r follows.
     const PointVek q = segment.Projete(p);
     const PointVek n = Unitaire(Normale(segment.Extremite - segment.Origine));
     const PointVek w(q.x - arc.Position.x, q.y - arc.Position.y);
@@ -131,7 +143,7 @@ bool EltArc::TangentSegmentArc(const EltSegment& segment, const EltArc& arc, con
         const double dehors = puissance / (2.0 * (arc.Rayon - s * Scalaire(w, n)));
         Retient(candidats, q + n * (s * dehors), dehors);
         const double dedans = -puissance / (2.0 * (arc.Rayon + s * Scalaire(w, n)));
-        if (dedans <= arc.Rayon) Retient(candidats, q + n * (s * dedans), dedans);
+        Retient(candidats, q + n * (s * dedans), dedans);
     }
     const Cercle* choisi = PlusProcheCercle(candidats, p);
     if (!choisi) return false;
@@ -140,19 +152,21 @@ bool EltArc::TangentSegmentArc(const EltSegment& segment, const EltArc& arc, con
 }
 
 bool EltArc::Tangent2Arcs(const EltArc& a1, const EltArc& a2, const PointVek& p) {
-    // The centre is taken on the line from the first centre through p, at R1 + k from it: |k| is
-    // the radius, and k is negative for a circle on the inner side of the first one. Its distance
-    // to the second centre is R2 + k or R2 - k; squared, the terms in k^2 cancel and k follows.
+    // The centre is taken on the line through the first centre and p, at R1 + k along u, which
+    // points to p or away from it: |k| is the radius. Its distance to the second centre is R2 + k
+    // or R2 - k; squared, the terms in k^2 cancel and k follows.
     const PointVek v(a1.Position.x - a2.Position.x, a1.Position.y - a2.Position.y);
     PointVek vers(p.x - a1.Position.x, p.y - a1.Position.y);
     if (Norme(vers) < vue::Epsilon()) vers = Norme(v) < vue::Epsilon() ? PointVek(1.0, 0.0) : -v;
-    const PointVek u = Unitaire(vers);
     const double r1 = a1.Rayon, r2 = a2.Rayon;
-    const double numerateur = r2 * r2 - r1 * r1 - Scalaire(v, v) - 2.0 * r1 * Scalaire(v, u);
     std::vector<Cercle> candidats;
-    for (const double signe : {1.0, -1.0}) {
-        const double k = numerateur / (2.0 * (Scalaire(v, u) + r1 - signe * r2));
-        Retient(candidats, a1.Position + u * (r1 + k), std::abs(k));
+    for (const PointVek& u : {-Unitaire(vers), Unitaire(vers)}) {
+        const double vu = Scalaire(v, u);
+        const double numerateur = r2 * r2 - r1 * r1 - Scalaire(v, v) - 2.0 * r1 * vu;
+        for (const double signe : {1.0, -1.0}) {
+            const double k = numerateur / (2.0 * (vu + r1 - signe * r2));
+            Retient(candidats, a1.Position + u * (r1 + k), std::abs(k));
+        }
     }
     const Cercle* choisi = PlusProcheCercle(candidats, p);
     if (!choisi) return false;
@@ -163,6 +177,7 @@ bool EltArc::Tangent2Arcs(const EltArc& a1, const EltArc& a2, const PointVek& p)
 bool EltArc::Tangent2ElementsRayon(const EltGeo& premier, const EltGeo& second, const PointVek& p,
                                    double rayon) {
     const bool droit1 = SeLitCommeSegment(premier), droit2 = SeLitCommeSegment(second);
+    if (!EstAppui(premier) || !EstAppui(second)) return false;
     if ((!droit1 && !EstArc(premier)) || (!droit2 && !EstArc(second))) return false;
     if (droit1 && droit2)
         return Conge2Segments(CommeSegment(premier), CommeSegment(second), p, rayon);

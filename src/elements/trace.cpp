@@ -39,7 +39,8 @@ int Pixels(double v) {
 Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur)
     : Support(surface),
       Contexte(Gdk::GC::create(surface)),
-      Zone{0.0, 0.0, static_cast<double>(largeur), static_cast<double>(hauteur)} {}
+      Aire{0.0, 0.0, static_cast<double>(largeur), static_cast<double>(hauteur)},
+      Zone(Aire) {}
 
 Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
              const Gdk::Rectangle& exposee)
@@ -53,6 +54,7 @@ Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteu
              const Gdk::Color& fond)
     : Trace(surface, largeur, hauteur) {
     Bande = true;
+    Fond = fond;
     PixelFond = Pixel(fond);
     Contexte->set_function(Gdk::XOR);
 }
@@ -67,8 +69,11 @@ void Trace::AppliqueTrait(const Trait& trait, Matiere matiere) {
     if (tuile) {
         AppliqueTuile(trait);
     } else {
-        AppliqueCouleur(matiere == Surface && trait.Remplissage ? trait.CouleurFond
-                                                                : trait.Couleur);
+        const bool remplie = matiere == Surface && trait.Remplissage;
+        // A fill in the colour of the background is no band by itself; the outline will show it.
+        const bool discrete = remplie && trait.Contour;
+        const Gdk::Color& couleur = remplie ? trait.CouleurFond : trait.Couleur;
+        AppliqueCouleur(discrete ? couleur : Visible(couleur));
         if (Tuilage) Contexte->set_fill(Gdk::SOLID);
     }
     Tuilage = tuile;
@@ -117,8 +122,7 @@ void Trace::AppliqueCouleur(const Gdk::Color& couleur) {
         return;
     }
     GdkColor exclusif = CouleurPosee;
-    exclusif.pixel = (Pixel(couleur) ^ PixelFond) & 0xffffff;
-    if (exclusif.pixel == 0) exclusif.pixel = 0xffffff;
+    exclusif.pixel = Pixel(couleur) ^ PixelFond;
     gdk_gc_set_foreground(Contexte->gobj(), &exclusif);
 }
 
@@ -128,23 +132,50 @@ void Trace::AppliqueTuile(const Trait& trait) {
         trait.AngleHachure == TraitTuile.AngleHachure && trait.Epaisseur == TraitTuile.Epaisseur &&
         trait.Couleur == TraitTuile.Couleur && trait.CouleurFond == TraitTuile.CouleurFond;
     if (!posee) {
-        TuilePosee = TuileHachure(Support, trait);
+        Trait visible = trait;
+        if (visible.CouleurFond == visible.Couleur) visible.Couleur = Visible(visible.Couleur);
+        TuilePosee = TuileHachure(Support, visible);
         TraitTuile = trait;
-        if (Bande) InverseTuile(TuilePosee);
         Contexte->set_tile(TuilePosee);
     }
     if (!posee || !Tuilage) Contexte->set_fill(Gdk::TILED);
 }
 
-void Trace::InverseTuile(const Glib::RefPtr<Gdk::Pixmap>& tuile) const {
-    const auto gc = Gdk::GC::create(tuile);
-    gc->set_function(Gdk::XOR);
-    GdkColor fond = {};
-    fond.pixel = PixelFond;
-    gdk_gc_set_foreground(gc->gobj(), &fond);
-    int largeur = 0, hauteur = 0;
-    tuile->get_size(largeur, hauteur);
-    tuile->draw_rectangle(gc, true, 0, 0, largeur, hauteur);
+Gdk::Color Trace::Visible(const Gdk::Color& couleur) const {
+    if (!(Bande || PourBande) || couleur != Fond) return couleur;
+    Gdk::Color inverse;
+    inverse.set_rgb(static_cast<gushort>(~Fond.get_red()), static_cast<gushort>(~Fond.get_green()),
+                    static_cast<gushort>(~Fond.get_blue()));
+    return inverse;
+}
+
+void Trace::Compose(const Boite& boite, const std::function<void(Trace&)>& dessine) {
+    if (!Bande) {
+        dessine(*this);
+        return;
+    }
+    // Painted on the plain background in a pixmap, then combined with that background: what is left
+    // shows the picture by exclusive-or on the window, text, hatch and overlaps included, and takes
+    // it away again.
+    const int x = Pixels(std::max(boite.Gauche, 0.0)), y = Pixels(std::max(boite.Haut, 0.0));
+    const int largeur = Pixels(std::min(boite.Droite, Aire.Droite)) - x;
+    const int hauteur = Pixels(std::min(boite.Bas, Aire.Bas)) - y;
+    if (largeur <= 0 || hauteur <= 0) return;
+    const auto image =
+        Gdk::Pixmap::create(Support, Pixels(Aire.Droite), Pixels(Aire.Bas), Support->get_depth());
+    image->set_colormap(Support->get_colormap());
+    Trace interne(image, Pixels(Aire.Droite), Pixels(Aire.Bas));
+    interne.Zone = Boite{1.0 * x, 1.0 * y, 1.0 * (x + largeur), 1.0 * (y + hauteur)};
+    interne.PourBande = true;
+    interne.Fond = Fond;
+    const auto fond = Gdk::GC::create(image);
+    fond->set_rgb_fg_color(Fond);
+    image->draw_rectangle(fond, true, x, y, largeur, hauteur);
+    dessine(interne);
+    fond->set_function(Gdk::XOR);
+    image->draw_rectangle(fond, true, x, y, largeur, hauteur);
+    gdk_draw_drawable(Support->gobj(), Contexte->gobj(), image->gobj(), x, y, x, y, largeur,
+                      hauteur);
 }
 
 void Trace::Segment(const PointVek& a, const PointVek& b) {
@@ -158,23 +189,28 @@ void Trace::LigneDepuis(const PointVek& a, const PointVek& b, double phase) {
                       Pixels(b.y));
         return;
     }
-    double t0 = 0.0, t1 = 1.0;
-    if (!CoupeLigne(a, b, Envoyable, t0, t1)) return;
-    const PointVek d = b - a;
-    const PointVek debut = a + d * t0, fin = a + d * t1;
-    if (!debut.EstFini() || !fin.EstFini()) return;
-    PlacePhase(phase + Norme(d) * t0);
+    PointVek debut = a, fin = b;
+    if (!CoupeLigne(debut, fin, Envoyable) || !debut.EstFini() || !fin.EstFini()) return;
+    PlacePhase(phase + Norme(debut - a));
     gdk_draw_line(Support->gobj(), Contexte->gobj(), Pixels(debut.x), Pixels(debut.y),
                   Pixels(fin.x), Pixels(fin.y));
 }
 
 void Trace::Droite(const PointVek& p, const PointVek& d) {
     const double longueur = Norme(d);
+    if (!p.EstFini() || !std::isfinite(longueur)) return;
     const PointVek u = longueur > 0.0 ? d / longueur : PointVek(0.0, 1.0);
-    double t0 = -HUGE_VAL, t1 = HUGE_VAL;
-    if (!CoupeLigne(p, p + u, Zone.Elargie(EpaisseurPosee + 2.0), t0, t1)) return;
-    // Dashes are counted from p, so that they stay with the line when the view moves.
-    LigneDepuis(p + u * t0, p + u * t1, t0);
+    // From the point of the line nearest to the centre of the area, which may be far from p, to
+    // beyond both edges. Dashes are counted from p, so that they stay with the line when the view
+    // moves.
+    const PointVek centre = Aire.Centre();
+    const double glissement = Scalaire(centre - p, u);
+    const PointVek milieu = p + u * glissement;
+    const double portee = Aire.Droite + Aire.Bas + 2.0 * EpaisseurPosee;
+    const PointVek depart = milieu - u * portee;
+    PointVek a = depart, b = milieu + u * portee;
+    if (!CoupeLigne(a, b, Aire.Elargie(EpaisseurPosee + 2.0))) return;
+    LigneDepuis(a, b, glissement - portee + Norme(a - depart));
 }
 
 void Trace::Arc(ArcEcran arc, bool plein) {
@@ -195,7 +231,7 @@ void Trace::Arc(ArcEcran arc, bool plein) {
 }
 
 void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
-    const Boite vue = Zone.Elargie(EpaisseurPosee + 2.0);
+    const Boite vue = Aire.Elargie(EpaisseurPosee + 2.0);
     const std::vector<double> angles = PasArc(arc, vue);
     if (plein) {
         std::vector<PointVek> sommets;
@@ -210,10 +246,43 @@ void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
                              static_cast<int>(pixels.size()));
         return;
     }
+    std::vector<PointVek> suite;
+    double phase = 0.0;
+    const auto envoie = [&] {
+        if (suite.size() > 1) PolyligneDepuis(suite, phase);
+        suite.clear();
+    };
     for (std::size_t i = 1; i < angles.size(); ++i) {
         const PointVek a = arc.Point(angles[i - 1]), b = arc.Point(angles[i]);
-        if (Boite::Autour(a, b).Touche(vue))
-            LigneDepuis(a, b, std::abs(angles[i - 1] - arc.Debut) * arc.Rayon);
+        if (!Boite::Autour(a, b).Touche(vue)) {
+            envoie();
+            continue;
+        }
+        if (suite.empty()) {
+            suite.push_back(a);
+            phase = std::abs(angles[i - 1] - arc.Debut) * arc.Rayon;
+        }
+        suite.push_back(b);
+    }
+    envoie();
+}
+
+void Trace::PolyligneDepuis(const std::vector<PointVek>& points, double phase) {
+    std::vector<GdkPoint> pixels;
+    for (const PointVek& p : points) {
+        if (!Envoyable.Contient(p)) break;
+        pixels.push_back({Pixels(p.x), Pixels(p.y)});
+    }
+    if (pixels.size() == points.size()) {
+        // In one piece, so that a band has no holes where two lines meet.
+        PlacePhase(phase);
+        gdk_draw_lines(Support->gobj(), Contexte->gobj(), pixels.data(),
+                       static_cast<int>(pixels.size()));
+        return;
+    }
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        LigneDepuis(points[i - 1], points[i], phase);
+        phase += Norme(points[i] - points[i - 1]);
     }
 }
 
@@ -244,9 +313,13 @@ void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool
 
 void Trace::Poignee(const PointVek& centre) {
     if (!Envoyable.Contient(centre)) return;
+    const GdkPoint p{Pixels(centre.x), Pixels(centre.y)};
+    // Two handles on the same pixels would take each other away in a band.
+    for (const GdkPoint& peinte : PoigneesPeintes)
+        if (peinte.x == p.x && peinte.y == p.y) return;
+    PoigneesPeintes.push_back(p);
     PlacePhase(0.0);
-    gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, Pixels(centre.x) - 5,
-                       Pixels(centre.y) - 5, 10, 10);
+    gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, p.x - 5, p.y - 5, 10, 10);
 }
 
 void Trace::Croix(const PointVek& centre, double bras) {
@@ -254,7 +327,15 @@ void Trace::Croix(const PointVek& centre, double bras) {
     Segment({centre.x, centre.y - bras}, {centre.x, centre.y + bras});
 }
 
+void Trace::Texte(const TexteEcran& texte, const Gdk::Color& couleur) {
+    if (texte.EstInvisible() || !Envoyable.Contient(texte.Ancre)) return;
+    const TexteMisEnPage mise(texte);
+    const Boite boite = mise.Cadre();
+    if (!boite.Touche(Zone)) return;
+    Compose(boite, [&](Trace& trace) { mise.Peint(trace.Support, trace.Visible(couleur)); });
+}
+
 void Trace::Point(const PointVek& p) {
-    if (!Zone.Contient(p)) return;
+    if (!Zone.Elargie(1.0).Contient(p)) return;
     gdk_draw_point(Support->gobj(), Contexte->gobj(), Pixels(p.x), Pixels(p.y));
 }

@@ -4,9 +4,11 @@
 #include <gdkmm/gc.h>
 #include <gdkmm/rectangle.h>
 
+#include <functional>
 #include <vector>
 
 #include "elements/coupe.h"
+#include "elements/texteecran.h"
 #include "elements/trait.h"
 
 /// Paints on a window or pixmap: the only place where elements and bands meet the toolkit's drawing
@@ -35,6 +37,10 @@ class Trace {
 
     void AppliqueTrait(const Trait& trait, Matiere matiere);
 
+    /// Paints something made of several parts that may cover one another, within the box: dessine
+    /// paints it with the trace that it is given. In a band it shows as it does in a picture.
+    void Compose(const Boite& boite, const std::function<void(Trace&)>& dessine);
+
     /// From a to b, in the style applied last, like all that follow.
     void Segment(const PointVek& a, const PointVek& b);
 
@@ -52,6 +58,8 @@ class Trace {
     /// Two lines of bras pixels to each side of the centre.
     void Croix(const PointVek& centre, double bras);
 
+    void Texte(const TexteEcran& texte, const Gdk::Color& couleur);
+
     /// One pixel.
     void Point(const PointVek& p);
 
@@ -62,17 +70,23 @@ class Trace {
     void AppliqueLigne(int epaisseur, int styleLigne);
     void AppliqueTuile(const Trait& trait);
     guint32 Pixel(const Gdk::Color& couleur) const;
-    void InverseTuile(const Glib::RefPtr<Gdk::Pixmap>& tuile) const;
 
     /// A line whose dashes have already run over phase pixels.
     void LigneDepuis(const PointVek& a, const PointVek& b, double phase);
     void ArcParPas(const ArcEcran& arc, bool plein);
     void PlacePhase(double phase);
+    /// The colour, or the inverse of the background where that would hide it in a band.
+    Gdk::Color Visible(const Gdk::Color& couleur) const;
+
+    void PolyligneDepuis(const std::vector<PointVek>& points, double phase);
 
     Glib::RefPtr<Gdk::Drawable> Support;
     Glib::RefPtr<Gdk::GC> Contexte;
-    Boite Zone;  ///< Only what touches it needs to be painted.
-    bool Bande = false;
+    Boite Aire;  ///< The whole area: lines are cut to it, the same in every partial exposure.
+    Boite Zone;  ///< The part to paint: what does not touch it may be left out.
+    bool Bande = false;      ///< Paints with the exclusive-or function.
+    bool PourBande = false;  ///< Paints the picture that a band will show.
+    Gdk::Color Fond;
     guint32 PixelFond = 0;
 
     // What the context holds, so that an attribute is set only when it changes.
@@ -85,4 +99,5 @@ class Trace {
     bool Tuilage = false;
     Glib::RefPtr<Gdk::Pixmap> TuilePosee;
     Trait TraitTuile;
+    std::vector<GdkPoint> PoigneesPeintes;
 };

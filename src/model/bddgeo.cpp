@@ -63,7 +63,7 @@ EltGeo* BDDGeo::Ajoute(const EltGeo& prototype) {
 }
 
 bool BDDGeo::Change(EltGeo& cible, const EltGeo& source) {
-    if (!source.EstValide()) return false;
+    if (!source.EstFini() || (cible.EstValide() && !source.EstValide())) return false;
     Annulations.push_back({EnregAnnul::Change, cible.Clone(), &cible});
     cible.VideFils();
     cible.Copie(source);
@@ -189,17 +189,17 @@ void BDDGeo::ChangeTraitZone(const EltRectangle& zone, const Trait& trait) {
         if (EstVisible(*elt) && zone.Contient(*elt)) elt->ChangeTrait(trait);
 }
 
-void BDDGeo::Ouvre(const std::string& nom) {
+void BDDGeo::Ouvre(std::string nom) {
     std::string texte;
     const bool lu = LitFichier(nom, texte);
     Vide();
-    NomFichier = nom;
+    NomFichier = std::move(nom);
     Nomme = true;
     if (lu) LitTexte(texte);
 }
 
-void BDDGeo::EnregistreSous(const std::string& nom) {
-    NomFichier = nom;
+void BDDGeo::EnregistreSous(std::string nom) {
+    NomFichier = std::move(nom);
     Nomme = true;
     Enregistre();
 }

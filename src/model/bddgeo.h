@@ -42,7 +42,7 @@ class BDDGeo : public BDDGeoBase {
     EltGeo* Ajoute(const EltGeo& prototype);
 
     /// Gives cible, an element of the list, the content of source, with an undo record. False, with
-    /// nothing done, when source is not valid.
+    /// nothing done, when source is not finite or less valid than cible was.
     bool Change(EltGeo& cible, const EltGeo& source);
 
     /// Undoes the newest step; false when there is none. `Modifie` stays as it is.
@@ -70,9 +70,9 @@ class BDDGeo : public BDDGeoBase {
 
     /// Replaces the drawing by a file's. What cannot be read leaves an empty or partly read drawing
     /// that bears the file's name all the same.
-    void Ouvre(const std::string& nom);
+    void Ouvre(std::string nom);
     void Enregistre();
-    void EnregistreSous(const std::string& nom);
+    void EnregistreSous(std::string nom);
 
     /// Tells that an element is about to leave the drawing, or with null that all are: whoever
     /// holds one lets go of it.

@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "elements/eltgeo.h"
 
@@ -54,7 +56,11 @@ class BDDGeoBase {
     void LitTexte(std::string_view texte);
 
   private:
-    void ChargeFils(Lecteur& entree);
+    /// Links from parent to child, by their ranks in the list.
+    using LiensFils = std::vector<std::pair<int, int>>;
+
+    void ChargeFils(Lecteur& entree, LiensFils& liens) const;
+    void RelieFils(const LiensFils& liens);
     void SauveFils(Ecrivain& sortie) const;
 
     int CalqueAffiche_ = -1;

@@ -67,7 +67,7 @@ void Echelle::ZoomMoinsEn(const PointVek& p) {
 void Echelle::ZoomRectangle(const PointVek& a, const PointVek& b, int largeur) {
     Origine = (a + b) / 2.0;
     const double cote = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
-    if (cote > 1e-6) SetFacteur(largeur / cote);
+    if (::Distance(a, b) > 1e-6) SetFacteur(largeur / cote);
 }
 
 void Echelle::Haut() {

@@ -6,10 +6,14 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <new>
 #include <utility>
 #include <vector>
 
 namespace {
+
+/// Larger than any drawing, in bytes: a file without end must not take all the memory.
+constexpr off_t TailleMax = off_t{1} << 30;
 
 /// An open file descriptor, closed with its owner.
 class Descripteur {
@@ -42,7 +46,11 @@ bool EcritTout(int numero, std::string_view contenu) {
 }
 
 bool EcritEtFerme(Descripteur& fichier, std::string_view contenu) {
-    return EcritTout(*fichier, contenu) && fsync(*fichier) == 0 && fichier.Ferme();
+    if (!EcritTout(*fichier, contenu)) return false;
+    // Some file systems know no flush.
+    const bool vide =
+        fsync(*fichier) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+    return vide && fichier.Ferme();
 }
 
 bool EcritSurPlace(const std::string& chemin, std::string_view contenu) {
@@ -56,6 +64,11 @@ bool RenommageInterdit(const std::string& chemin, const struct stat& ancien) {
     return !S_ISREG(ancien.st_mode) || ancien.st_nlink > 1 || access(chemin.c_str(), W_OK) != 0;
 }
 
+/// Whether a new file was refused by the folder itself, and not for want of room.
+bool DossierFerme(int erreur) {
+    return erreur == EACCES || erreur == EPERM || erreur == EROFS || erreur == ENAMETOOLONG;
+}
+
 enum class Issue { Ecrit, Echec, Impossible };
 
 Issue EcritACote(const std::string& chemin, std::string_view contenu) {
@@ -66,7 +79,7 @@ Issue EcritACote(const std::string& chemin, std::string_view contenu) {
     const std::string modele = chemin + ".XXXXXX";
     std::vector<char> provisoire(modele.c_str(), modele.c_str() + modele.size() + 1);
     Descripteur fichier(mkstemp(provisoire.data()));
-    if (!fichier.Ouvert()) return Issue::Impossible;
+    if (!fichier.Ouvert()) return DossierFerme(errno) ? Issue::Impossible : Issue::Echec;
     const mode_t masque = umask(0);
     umask(masque);
     const mode_t droits = existe ? ancien.st_mode & 07777 : 0666 & ~masque;
@@ -77,10 +90,15 @@ Issue EcritACote(const std::string& chemin, std::string_view contenu) {
         unlink(provisoire.data());
         return Issue::Impossible;
     }
-    const bool bon = fchmod(*fichier, droits) == 0 && EcritEtFerme(fichier, contenu) &&
-                     std::rename(provisoire.data(), chemin.c_str()) == 0;
-    if (!bon) unlink(provisoire.data());
-    return bon ? Issue::Ecrit : Issue::Echec;
+    // A file system without rights of its own refuses them; the content matters more.
+    [[maybe_unused]] const int accordes = fchmod(*fichier, droits);
+    if (!EcritEtFerme(fichier, contenu)) {
+        unlink(provisoire.data());
+        return Issue::Echec;
+    }
+    if (std::rename(provisoire.data(), chemin.c_str()) == 0) return Issue::Ecrit;
+    unlink(provisoire.data());
+    return Issue::Impossible;
 }
 
 }  // namespace
@@ -90,7 +108,12 @@ bool LitFichier(const std::string& chemin, std::string& contenu) {
     Descripteur fichier(open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat etat = {};
     if (!fichier.Ouvert() || fstat(*fichier, &etat) != 0 || !S_ISREG(etat.st_mode)) return false;
-    contenu.resize(static_cast<std::size_t>(etat.st_size));
+    if (etat.st_size > TailleMax) return false;
+    try {
+        contenu.resize(static_cast<std::size_t>(etat.st_size));
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
     std::size_t lu = 0;
     while (lu < contenu.size()) {
         const ssize_t n = read(*fichier, contenu.data() + lu, contenu.size() - lu);

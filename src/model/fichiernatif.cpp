@@ -1,7 +1,6 @@
 // The text of a drawing: version, count, records, table of children.
 
 #include <algorithm>
-#include <set>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -20,9 +19,32 @@ bool CommencePar(std::string_view mot, std::string_view debut) {
     return mot.substr(0, debut.size()) == debut;
 }
 
-/// Whether the link can close a loop: only one from an element that is held to one that holds.
-bool PeutBoucler(const EltGeo& parent, const EltGeo& fils) {
-    return &parent == &fils || (parent.NbParents > 0 && fils.Fils.Nombre() > 0);
+/// The links, from parent to child by their ranks, that close no loop: those of the elements that
+/// are reached from one without parent by taking away, again and again, the elements without
+/// parent.
+std::vector<std::pair<int, int>> SansBoucle(const std::vector<std::pair<int, int>>& liens,
+                                            int nombre) {
+    std::vector<std::vector<int>> fils(static_cast<std::size_t>(nombre));
+    std::vector<int> parents(static_cast<std::size_t>(nombre), 0);
+    for (const auto& [parent, enfant] : liens) {
+        fils[static_cast<std::size_t>(parent)].push_back(enfant);
+        ++parents[static_cast<std::size_t>(enfant)];
+    }
+    std::vector<int> libres;
+    for (int rang = 0; rang < nombre; ++rang)
+        if (parents[static_cast<std::size_t>(rang)] == 0) libres.push_back(rang);
+    std::vector<bool> atteints(static_cast<std::size_t>(nombre), false);
+    while (!libres.empty()) {
+        const auto rang = static_cast<std::size_t>(libres.back());
+        libres.pop_back();
+        atteints[rang] = true;
+        for (const int enfant : fils[rang])
+            if (--parents[static_cast<std::size_t>(enfant)] == 0) libres.push_back(enfant);
+    }
+    std::vector<std::pair<int, int>> gardes;
+    for (const auto& lien : liens)
+        if (atteints[static_cast<std::size_t>(lien.first)]) gardes.push_back(lien);
+    return gardes;
 }
 
 }  // namespace
@@ -35,7 +57,7 @@ void BDDGeoBase::ChargeTexte(std::string_view texte) {
 void BDDGeoBase::LitTexte(std::string_view texte) {
     Lecteur entree(texte);
     Charge(entree);
-    if (!entree.VersionRefusee().empty()) MessageVersion(entree.VersionRefusee());
+    if (entree.VersionRefusee()) MessageVersion(*entree.VersionRefusee());
 }
 
 void BDDGeoBase::Charge(Lecteur& entree) {
@@ -49,22 +71,22 @@ void BDDGeoBase::Charge(Lecteur& entree) {
     // A code that can't be read keeps its former value, so that a text cut off behind a record
     // gives one more element of that record's type: that is meant.
     int code = -1;
+    LiensFils liens;
     for (int i = 0; i < nombre && entree.PeutLire(); ++i) {
         entree >> code;
         if (code == MarqueFils) {
-            ChargeFils(entree);
+            ChargeFils(entree, liens);
         } else if (auto elt = CreeElement(code)) {
             elt->Charge(entree);
             AjouteFin(std::move(elt));
         }
     }
+    RelieFils(liens);
     Modifie = false;
 }
 
-void BDDGeoBase::ChargeFils(Lecteur& entree) {
-    const std::vector<EltGeo*> rangs(Elements.begin(), Elements.end());
-    std::set<std::pair<int, int>> liens;
-    const int borne = static_cast<int>(rangs.size());
+void BDDGeoBase::ChargeFils(Lecteur& entree, LiensFils& liens) const {
+    const auto existe = [borne = Elements.Nombre()](int rang) { return rang >= 0 && rang < borne; };
     while (entree.PeutLire()) {
         int parent = -1;
         entree >> parent;
@@ -74,12 +96,17 @@ void BDDGeoBase::ChargeFils(Lecteur& entree) {
         for (int i = 0; i < nombre && entree.PeutLire(); ++i) {
             int fils = -1;
             entree >> fils;
-            // An index that names nothing, a loop and a child given twice are dropped.
-            if (parent < 0 || parent >= borne || fils < 0 || fils >= borne) continue;
-            if (PeutBoucler(*rangs[parent], *rangs[fils])) continue;
-            if (liens.emplace(parent, fils).second) rangs[parent]->AjouteFils(rangs[fils]);
+            // An index that names nothing, and a child of itself, are dropped.
+            if (existe(parent) && existe(fils) && parent != fils) liens.emplace_back(parent, fils);
         }
     }
+}
+
+void BDDGeoBase::RelieFils(const LiensFils& liens) {
+    if (liens.empty()) return;
+    const std::vector<EltGeo*> rangs(Elements.begin(), Elements.end());
+    for (const auto& [parent, fils] : SansBoucle(liens, Elements.Nombre()))
+        rangs[static_cast<std::size_t>(parent)]->AjouteFils(rangs[static_cast<std::size_t>(fils)]);
 }
 
 void BDDGeoBase::Sauve(Ecrivain& sortie) {

@@ -2,7 +2,7 @@
 
 #include <gtkmm/messagedialog.h>
 
-#include "model/encodage.h"
+#include "elements/encodage.h"
 
 void MessageVersion(const std::string& mot) {
     constexpr std::size_t lisible = 60;
@@ -13,5 +13,7 @@ void MessageVersion(const std::string& mot) {
         "Version du fichier incompatible.\n Contacter l'editeur.\nVersion3.2 attendue \n" + recu +
             " reçue",
         false, Gtk::MESSAGE_INFO, Gtk::BUTTONS_OK, true);
+    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels())
+        if (fenetre->property_is_active()) message.set_transient_for(*fenetre);
     message.run();
 }

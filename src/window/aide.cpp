@@ -6,20 +6,21 @@
 #include <gtk/gtk.h>
 #include <gtkmm/messagedialog.h>
 
-#include <iostream>
-
 #include "window/dessinwindow.h"
 #include "window/donnees.h"
 
 namespace {
 
-void OuvreNavigateur(const Glib::RefPtr<Gdk::Screen>& ecran, const std::string& adresse) {
-    if (gtk_show_uri(ecran->gobj(), adresse.c_str(), gtk_get_current_event_time(), nullptr)) return;
+/// False when there is nothing to open the address with.
+bool OuvreNavigateur(const Glib::RefPtr<Gdk::Screen>& ecran, const std::string& adresse) {
+    if (gtk_show_uri(ecran->gobj(), adresse.c_str(), gtk_get_current_event_time(), nullptr))
+        return true;
     try {
         const std::vector<std::string> commande = {"xdg-open", adresse};
         Glib::spawn_async("", commande, Glib::SPAWN_SEARCH_PATH);
-    } catch (const Glib::SpawnError& erreur) {
-        std::cerr << erreur.what().c_str() << '\n';
+        return true;
+    } catch (const Glib::SpawnError&) {
+        return false;
     }
 }
 
@@ -27,8 +28,13 @@ void OuvreNavigateur(const Glib::RefPtr<Gdk::Screen>& ecran, const std::string& 
 
 void DessinWindow::Aide() {
     const std::string page = Glib::build_filename(DossierDonnees(), "aide.htm");
-    OuvreNavigateur(get_screen(), Glib::filename_to_uri(page));
-    iconify();
+    if (OuvreNavigateur(get_screen(), Glib::filename_to_uri(page))) {
+        iconify();
+        return;
+    }
+    Gtk::MessageDialog message(*this, "L'aide se lit dans un navigateur :\n" + page, false,
+                               Gtk::MESSAGE_INFO, Gtk::BUTTONS_OK, true);
+    message.run();
 }
 
 void DessinWindow::APropos() {

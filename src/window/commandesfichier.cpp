@@ -2,7 +2,10 @@
 
 #include <glibmm/convert.h>
 #include <glibmm/fileutils.h>
+#include <glibmm/main.h>
+#include <gtkmm/main.h>
 #include <gtkmm/messagedialog.h>
+#include <gtkmm/recentmanager.h>
 #include <gtkmm/stock.h>
 
 #include "dialogs/choixfichier.h"
@@ -53,6 +56,24 @@ std::string FichierRecent(const std::string& uri) {
     return {};
 }
 
+/// Takes an entry that leads nowhere out of the list.
+void OublieRecent(const Glib::ustring& uri) {
+    try {
+        Gtk::RecentManager::get_default()->remove_item(uri);
+    } catch (const Gtk::RecentManagerError&) {
+        // It is gone already.
+    }
+}
+
+/// The toolkit writes its list of recent files a moment after it has taken an entry: lets it,
+/// before the program ends.
+void LaisseEcrireRecents() {
+    bool fini = false;
+    Glib::signal_timeout().connect_once([&fini] { fini = true; }, 400);
+    while (!fini)
+        Gtk::Main::iteration();
+}
+
 }  // namespace
 
 void DessinWindow::New() {
@@ -70,8 +91,12 @@ void DessinWindow::Open() {
 }
 
 void DessinWindow::RecentFiles() {
-    const std::string nom = FichierRecent(ActionRecents->get_current_uri());
-    if (nom.empty()) return;
+    const Glib::ustring uri = ActionRecents->get_current_uri();
+    const std::string nom = FichierRecent(uri);
+    if (nom.empty()) {
+        OublieRecent(uri);
+        return;
+    }
     Zone.OuvreZone(nom);
     MetTitre();
 }
@@ -117,6 +142,7 @@ bool DessinWindow::ConfirmeFermeture() {
     if (reponse == Gtk::RESPONSE_OK) {
         BddCourante.EnregistreSous(nom);
         MetTitre();
+        LaisseEcrireRecents();
     }
     return reponse == Gtk::RESPONSE_OK || reponse == Gtk::RESPONSE_NO;
 }

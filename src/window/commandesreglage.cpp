@@ -19,9 +19,8 @@ void DessinWindow::CalquesAfficher() {
     int calque = BddCourante.CalqueAffiche();
     IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    BddCourante.SetCalqueAffiche(calque);
+    Zone.SetCalqueAffiche(calque);
     AfficheCalques();
-    Zone.Redessine();
 }
 
 void DessinWindow::GrillePas() {

@@ -64,7 +64,8 @@ void ZoneDessin::MontrePoignees() {
 }
 
 void ZoneDessin::LaisseElement(EltGeo* elt) {
-    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltCopie);
+    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltCopie ||
+                                     (EltDeforme && EltDeforme->Fils.Contient(elt)));
     if (tenu) MetEtat(LigneDe(Etat).Premier);
 }
 

@@ -143,6 +143,14 @@ void ZoneDessin::SetCalque(int calque) {
     Protos.SetCalque(calque);
 }
 
+void ZoneDessin::SetCalqueAffiche(int calque) {
+    BddCourante.SetCalqueAffiche(calque);
+    for (EltGeo* elt : {EltCourant, EltCopie})
+        if (elt && !BddCourante.EstVisible(*elt)) LaisseElement(elt);
+    CacheRepere();
+    DessinChange();
+}
+
 void ZoneDessin::OuvreZone(const std::string& nom) {
     BddCourante.Ouvre(nom);
     RazEtat();

@@ -77,6 +77,9 @@ class ZoneDessin : public Gtk::DrawingArea {
     void SetTrait(const ::Trait& trait);
     const ::Trait& Trait() const { return TraitCourant; }
     void SetCalque(int calque);
+
+    /// Displays one layer, or all with -1; what is hidden by it is let go.
+    void SetCalqueAffiche(int calque);
     int Calque() const { return CalqueCourant; }
 
     /// Asks for a repaint of the whole area.

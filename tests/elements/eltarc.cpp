@@ -1,7 +1,5 @@
 #include "elements/eltarc.h"
 
-#include <gtest/gtest.h>
-
 #include "elements/angles.h"
 #include "elements/eltdisque.h"
 #include "elements/eltrectangle.h"
@@ -10,106 +8,84 @@
 
 namespace {
 
-void VerifieAngles(const EltArc& arc, double debut, double ouverture) {
+void VerifieArc(const EltArc& arc, const PointVek& centre, double debut, double ouverture) {
+    EXPECT_POINT(arc.Centre(), centre.x, centre.y);
     EXPECT_NEAR(EnDegres(arc.AngleDebut), debut, 1e-9);
     EXPECT_NEAR(EnDegres(arc.Ouverture), ouverture, 1e-9);
 }
 
 }  // namespace
 
-TEST(EltArc, CerclesEtBouts) {
+TEST(EltArc, Constructions) {
     EltArc arc;
-    VerifieAngles(arc, 0, 360);
-    EXPECT_FALSE(arc.EstValide());
-
+    VerifieArc(arc, {0, 0}, 0, 360);
     arc.SetCentreDefaut({10, 20});
     EXPECT_EQ(arc.Rayon, 10);
-    arc.SetDebutPoint({13, 16});
-    EXPECT_EQ(arc.Rayon, 5);
-    VerifieAngles(arc, 360 - EnDegres(std::atan2(4, 3)), 15);
-    arc.SetFinPoint({14, 23});  // The start turned by a right angle.
-    EXPECT_NEAR(EnDegres(arc.Ouverture), 90, 1e-9);
-    EXPECT_POINT(arc.Debut(), 13, 16);
-    EXPECT_POINT(arc.Fin(), 14, 23);
-    arc.SetFinPoint({16, 12});
+    arc.SetDebutPoint({15, 15});
+    VerifieArc(arc, {10, 20}, 315, 15);
+    arc.SetFinPoint({17, 27});
+    VerifieArc(arc, {10, 20}, 315, 90);
+    EXPECT_POINT(arc.Fin(), 15, 25);
+    arc.SetFinPoint({20, 10});
     EXPECT_NEAR(arc.Ouverture, 0, 1e-12);
-    arc.PlaceFin({16, 12});
-    EXPECT_DOUBLE_EQ(arc.Ouverture, 1e-6);
-    arc.PlaceFin({6, 17});
-    EXPECT_NEAR(EnDegres(arc.Ouverture), 270, 1e-9);
+    arc.PlaceFin({20, 10});
+    EXPECT_EQ(arc.Ouverture, 1e-6);
+    arc.PlaceFin({5, 15});
+    VerifieArc(arc, {10, 20}, 315, 270);
     arc.PlaceDebut({10, 70});
-    VerifieAngles(arc, 90, 270);
+    VerifieArc(arc, {10, 20}, 90, 270);
     arc.SetRayonPoint({7, 24});
-    VerifieAngles(arc, 0, 360);
+    VerifieArc(arc, {10, 20}, 0, 360);
     EXPECT_EQ(arc.Rayon, 5);
-
     arc.DepuisPoints({10, 12}, {2, 20}, 8);
-    VerifieAngles(arc, 270, 270);
-    EXPECT_EQ(arc.Rayon, 8);
+    VerifieArc(arc, {10, 20}, 270, 270);
     arc.DepuisPoints({10, 12}, {10, 20}, 9);
-    VerifieAngles(arc, 0, 360);
-    EXPECT_EQ(arc.Rayon, 9);
-}
+    VerifieArc(arc, {10, 20}, 0, 360);
 
-TEST(EltArc, ParPointsDeCorde) {
-    EltArc arc;
-    arc.Arc2Points({0, 0}, {10, 0});
-    EXPECT_POINT(arc.Centre(), 5, 5);
-    VerifieAngles(arc, 225, 90);
     arc.Arc2Points({10, 0}, {0, 0});
-    EXPECT_POINT(arc.Centre(), 5, -5);
-    VerifieAngles(arc, 45, 90);
+    VerifieArc(arc, {5, -5}, 45, 90);
     // The third point counts by its distance from the middle of the chord, not by its side.
     for (const PointVek& c : {PointVek(5, 12), PointVek(5, -12), PointVek(17, 0)}) {
         arc.Arc3Points({0, 0}, {10, 0}, c);
         EXPECT_POINT(arc.Centre(), 5, 12);
-        EXPECT_DOUBLE_EQ(arc.Rayon, 13.0);
         EXPECT_POINT(arc.Debut(), 0, 0);
         EXPECT_POINT(arc.Fin(), 10, 0);
         EXPECT_LT(arc.Ouverture, Pi);
     }
     arc.Arc3Points({4, 4}, {4, 4}, {9, 9});
-    EXPECT_EQ(arc.Rayon, 0.0);
-    VerifieAngles(arc, 0, 360);
+    VerifieArc(arc, {4, 4}, 0, 360);
+    EXPECT_EQ(arc.Rayon, 0);
 }
 
-TEST(EltArc, DistancesEtPoints) {
-    const EltArc arc({10, 0}, 5, 0, Pi / 2, 0);
-    EXPECT_DOUBLE_EQ(arc.Distance({3, 0}), 2.0);  // On the part that is missing.
-    EXPECT_DOUBLE_EQ(arc.Distance({11, 0}), 4.0);
-    EXPECT_DOUBLE_EQ(arc.DistanceSupport({11, 0}), 1.0);
-    EXPECT_DOUBLE_EQ(arc.DistanceSupport({16, 0}), 1.0);
-    EXPECT_POINT(arc.PointProche({12.5, 0}), 10, 0);  // A tie goes to the centre.
-    EXPECT_POINT(arc.PointProche({12.6, 0}), 15, 0);
-    EXPECT_POINT(arc.PointProche({8, 9}), 10, 5);
-}
+TEST(EltArc, DistancesEtPoignees) {
+    EltArc arc({10, 0}, 50, 0, Pi / 2, 0);
+    EXPECT_DOUBLE_EQ(arc.Distance({-42, 0}), 2);  // On the part that is missing.
+    EXPECT_DOUBLE_EQ(arc.DistanceSupport({11, 0}), 1);
+    EXPECT_DOUBLE_EQ(arc.DistanceSupport({61, 0}), 1);
+    EXPECT_POINT(arc.PointProche({35, 0}), 10, 0);  // A tie goes to the centre.
+    EXPECT_POINT(arc.PointProche({8, 40}), 10, 50);
 
-TEST(EltArc, Poignees) {
-    EltArc quart({0, 0}, 100, 0, Pi / 2, 0);
-    const auto saisit = [](EltArc& arc, double x, double y) {
+    const auto saisit = [&arc](double x, double y) {
         PoigneeCourante = 0;
         arc.DebutDeforme({x, y});
         return PoigneeCourante;
     };
-    EXPECT_EQ(saisit(quart, 0, 0), 1);
-    EXPECT_EQ(saisit(quart, 3, 95), 2);
-    quart.Deforme({-100, -100});
-    VerifieAngles(quart, 0, 180);
-    EXPECT_EQ(saisit(quart, 95, 3), 3);
-    quart.Deforme({-100, 100});
-    VerifieAngles(quart, 90, 180);
-    EXPECT_EQ(quart.Rayon, 100);
-    EXPECT_EQ(saisit(quart, 50, 50), 1);
-    quart.Deforme({7, 8});
-    EXPECT_POINT(quart.Centre(), 7, 8);
-
-    EltArc cercle({0, 0}, 100, 0, DeuxPi, 0);
-    EXPECT_EQ(saisit(cercle, 95, 3), 2);
-    cercle.Deforme({-100, -100});
-    VerifieAngles(cercle, 0, 270);
+    EXPECT_EQ(saisit(10, 0), 1);
+    EXPECT_EQ(saisit(13, 45), 2);
+    arc.Deforme({-50, -50});
+    VerifieArc(arc, {10, 0}, 0, 180);
+    EXPECT_EQ(saisit(55, 3), 3);
+    arc.Deforme({-50, 50});
+    VerifieArc(arc, {10, 0}, 90, 180);
+    EXPECT_EQ(saisit(30, 30), 1);
+    arc.Deforme({7, 8});
+    arc.SetRayonPoint({67, 8});
+    EXPECT_EQ(saisit(65, 8), 2);  // A full circle has no start of its own.
+    arc.Deforme({-50, -50});
+    VerifieArc(arc, {17, 8}, 0, 270);
 }
 
-TEST(EltArc, MiroirDesAngles) {
+TEST(EltArc, MiroirEtCopie) {
     for (const bool x : {false, true})
         for (const bool y : {false, true}) {
             EltArc arc({10, 4}, 5, EnRadians(30), EnRadians(60), 0);
@@ -125,36 +101,19 @@ TEST(EltArc, MiroirDesAngles) {
             EXPECT_POINT(arc.Fin(), fin.x, fin.y);
             EXPECT_NEAR(EnDegres(arc.Ouverture), x != y ? -60 : 60, 1e-9);
         }
-    // A rotation moves the centre and leaves the angles.
-    EltArc arc({10, 0}, 5, EnRadians(30), EnRadians(60), 0);
+    EltDisque disque;
+    disque.Place({10, 0});
+    disque.AngleDebut = disque.Ouverture = EnRadians(30);
     TransformeColle quart;
     quart.Cos = 0;
     quart.Sin = 1;
-    arc.Transforme(quart);
-    EXPECT_POINT(arc.Centre(), 0, 10);
-    VerifieAngles(arc, 30, 60);
-}
-
-TEST(EltArc, CopieEtStyle) {
-    Trait plein;
-    plein.Remplissage = true;
-    plein.Hachure = 1;
-    EltDisque disque;
-    disque.ChangeTrait(plein);
-    disque.SetCentreDefaut({1, 2});
-    EXPECT_EQ(disque.Clone()->Nom(), "DISQUE");
+    disque.Transforme(quart);
     EltArc arc;
     arc.NbParents = 3;
     arc.Copie(disque);
+    VerifieArc(arc, {0, 10}, 30, 30);  // A rotation leaves the angles.
     EXPECT_EQ(arc.Type, TypeDisque);
-    EXPECT_EQ(arc.Rayon, 10);
     EXPECT_EQ(arc.NbParents, 3);
-    EXPECT_TRUE(arc.Style.Remplissage);
-
-    EltSegment segment;
-    segment.ChangeTrait(plein);
-    EXPECT_FALSE(segment.Style.Remplissage);
-    EXPECT_EQ(segment.Style.Hachure, 0);
 }
 
 TEST(Intersections, DroitesEtCercles) {
@@ -167,18 +126,19 @@ TEST(Intersections, DroitesEtCercles) {
     ASSERT_EQ(Intersecte(cercle, EltSegment({9, 5}, {8, 5}, 0), a, b), 2);
     EXPECT_POINT(a, 0, 5);
     EXPECT_POINT(b, 0, 5);
-    EXPECT_EQ(Intersecte(cercle, EltSegment({9, 6}, {8, 6}, 0), a, b), 0);
-    EXPECT_EQ(Intersecte(cercle, EltSegment({1, 1}, {1, 1}, 0), a, b), 0);
     EXPECT_EQ(Intersecte(droite, EltSegment({7, 0}, {7, 1}, 0), a, b), 1);
     EXPECT_POINT(a, 7, 3);
-    EXPECT_EQ(Intersecte(droite, EltSegment({7, 0}, {8, 0}, 0), a, b), 0);
-
-    // Two circles 14 apart, the chord 5 from the first: from it, first what is on the left.
-    ASSERT_EQ(Intersecte(EltArc({0, 0}, 13, 0, 1, 0), EltArc({14, 0}, 15, 0, 1, 0), a, b), 2);
+    // The chord is 5 from the first circle; from it, first what is on the left.
+    const EltArc c1({0, 0}, 13, 0, 1, 0), c2({14, 0}, 15, 0, 1, 0);
+    ASSERT_EQ(Intersecte(c1, c2, a, b), 2);
     EXPECT_POINT(a, 5, 12);
     EXPECT_POINT(b, 5, -12);
-    ASSERT_EQ(Intersecte(EltArc({14, 0}, 15, 0, 1, 0), EltArc({0, 0}, 13, 0, 1, 0), a, b), 2);
+    ASSERT_EQ(Intersecte(c2, c1, a, b), 2);
     EXPECT_POINT(a, 5, -12);
+
+    EXPECT_EQ(Intersecte(cercle, EltSegment({9, 6}, {8, 6}, 0), a, b), 0);
+    EXPECT_EQ(Intersecte(cercle, EltSegment({1, 1}, {1, 1}, 0), a, b), 0);
+    EXPECT_EQ(Intersecte(droite, EltSegment({7, 0}, {8, 0}, 0), a, b), 0);
     EXPECT_EQ(Intersecte(cercle, EltArc({20, 0}, 5, 0, 1, 0), a, b), 0);
     EXPECT_EQ(Intersecte(cercle, EltArc({1, 0}, 1, 0, 1, 0), a, b), 0);
     EXPECT_EQ(Intersecte(cercle, cercle, a, b), 0);

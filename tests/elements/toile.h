@@ -1,28 +1,13 @@
 #pragma once
 
-#include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gdkmm/colormap.h>
 #include <gdkmm/pixbuf.h>
 #include <gdkmm/pixmap.h>
 
 #include <vector>
 
-#include "elements/eltgeo.h"
 #include "elements/trace.h"
 #include "model/echelle.h"
-
-/// What was painted, as 0xrrggbb.
-struct Image {
-    int Largeur;
-    int Hauteur;
-    std::vector<unsigned> Pixels;
-
-    unsigned operator()(int x, int y) const {
-        return Pixels[static_cast<std::size_t>(y * Largeur + x)];
-    }
-    bool operator==(const Image& autre) const { return Pixels == autre.Pixels; }
-    bool operator!=(const Image& autre) const { return Pixels != autre.Pixels; }
-};
 
 constexpr unsigned Noir = 0x000000, Blanc = 0xffffff, Rouge = 0xff0000, Bleu = 0x0000ff;
 
@@ -40,36 +25,33 @@ class Toile {
         gc->set_rgb_fg_color(Gdk::Color("#ffffff"));
         Surface->draw_rectangle(gc, true, 0, 0, Largeur, Hauteur);
     }
-    ~Toile() {
-        EchelleCourante.ZoomInit();
-        EchelleCourante.SetCentre(0, 0);
-    }
+    ~Toile() { EchelleCourante.SetCentre(0, 0); }
     Toile(const Toile&) = delete;
     Toile& operator=(const Toile&) = delete;
 
-    Trace Pinceau() const { return Pinceau(Gdk::Rectangle(0, 0, Largeur, Hauteur)); }
-    Trace Pinceau(const Gdk::Rectangle& exposee) const {
+    Trace Pinceau(const Gdk::Rectangle& exposee = {0, 0, Largeur, Hauteur}) const {
         return Trace(Surface, Largeur, Hauteur, exposee);
     }
     Trace Bande() const { return Trace(Surface, Largeur, Hauteur, Gdk::Color("#ffffff")); }
 
-    void Peint(const EltGeo& elt) const {
-        Trace trace = Pinceau();
-        elt.Dessine(trace);
-    }
-
-    Image Lit() const {
+    /// The picture line by line, as 0xrrggbb.
+    std::vector<unsigned> Lit() const {
         const auto lu =
             Gdk::Pixbuf::create(Glib::RefPtr<Gdk::Drawable>(Surface), 0, 0, Largeur, Hauteur);
-        Image image{Largeur, Hauteur, {}};
+        std::vector<unsigned> pixels;
         for (int y = 0; y < Hauteur; ++y)
             for (int x = 0; x < Largeur; ++x) {
                 const guint8* p =
                     lu->get_pixels() + y * lu->get_rowstride() + x * lu->get_n_channels();
-                image.Pixels.push_back(p[0] * 65536u + p[1] * 256u + p[2]);
+                pixels.push_back(p[0] * 65536u + p[1] * 256u + p[2]);
             }
-        return image;
+        return pixels;
     }
 
     const Glib::RefPtr<Gdk::Pixmap> Surface;
 };
+
+/// The pixel of a picture.
+inline unsigned Vu(const std::vector<unsigned>& image, int x, int y) {
+    return image[static_cast<std::size_t>(y * Toile::Largeur + x)];
+}

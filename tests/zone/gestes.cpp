@@ -134,6 +134,47 @@ TEST(Bandes, RienNeResteNiNeManque) {
     EXPECT_EQ(Neuve(banc).Ecart(propre), 0);
 }
 
+TEST(Bandes, MontrentLElementTelQuIlSera) {
+    Trait rempli;
+    rempli.Remplissage = true;
+    Trait rouge = rempli;
+    rouge.Couleur = rouge.CouleurFond = Gdk::Color("red");
+    rouge.Epaisseur = 8;
+    Trait contraste = rempli;
+    contraste.CouleurFond = Gdk::Color("yellow");
+    contraste.Epaisseur = 8;
+    Trait hachure = contraste;
+    hachure.Hachure = 1;
+    hachure.PasHachure = 7;
+    hachure.AngleHachure = -0.5;
+    for (const Trait& trait : {rempli, rouge, contraste, hachure})
+        for (const int outil : {ETAT_RECTANGLE_1, ETAT_CERCLE_1, ETAT_DISQUE_1}) {
+            Banc banc;
+            banc.Zone.SetTrait(trait);
+            banc.Zone.Entre(outil);
+            banc.Souris.ClicA({-80, 60});
+            banc.Souris.BougeA({30, -40});
+            banc.Souris.BougeA({50, -50});
+            const Capture bande = banc.Image();
+            banc.Souris.ClicA({50, -50});
+            EXPECT_EQ(banc.Image().Ecart(bande), 0) << "tool " << outil;
+        }
+
+    // All in white on white: the band shows all the same.
+    Trait blanc = hachure;
+    blanc.Couleur = blanc.CouleurFond = Gdk::Color("white");
+    blanc.Contour = false;
+    Banc banc;
+    const Capture propre = Neuve(banc);
+    banc.Zone.SetTrait(blanc);
+    banc.Zone.Entre(ETAT_RECTANGLE_1);
+    banc.Souris.ClicA({-80, 60});
+    banc.Souris.BougeA({50, -50});
+    EXPECT_GT(banc.Image().Ecart(propre), 100);
+    banc.Zone.RazEtat();
+    EXPECT_EQ(banc.Image().Ecart(propre), 0);
+}
+
 TEST(Bandes, SuiventLaVueEtLeFond) {
     Banc banc;
     banc.Zone.Entre(ETAT_CERCLE_1);

@@ -1,0 +1,69 @@
+#include "elements/texteecran.h"
+
+#include <gdk/gdk.h>
+#include <pango/pangocairo.h>
+
+#include <cmath>
+
+namespace {
+
+/// More than this many characters reach beyond any screen.
+constexpr std::size_t CaracteresMax = 4000;
+
+/// The one layout of the program, on the fonts of the screen at 96 dots an inch whatever the
+/// desktop says, so that a drawing looks the same everywhere.
+PangoLayout* MiseEnPage() {
+    static PangoLayout* mise = [] {
+        PangoContext* contexte = gdk_pango_context_get_for_screen(gdk_screen_get_default());
+        pango_cairo_context_set_resolution(contexte, 96.0);
+        PangoLayout* neuve = pango_layout_new(contexte);
+        g_object_unref(contexte);
+        return neuve;
+    }();
+    return mise;
+}
+
+void RegleMiseEnPage(const TexteEcran& texte) {
+    PangoFontDescription* police = pango_font_description_from_string(texte.Police.c_str());
+    pango_font_description_set_weight(police, PANGO_WEIGHT_BOLD);
+    pango_font_description_set_gravity(police, PANGO_GRAVITY_SOUTH);
+    pango_font_description_set_size(police,
+                                    static_cast<int>(std::lround(PANGO_SCALE * texte.Taille)));
+    PangoLayout* mise = MiseEnPage();
+    pango_layout_set_font_description(mise, police);
+    pango_font_description_free(police);
+    pango_layout_set_single_paragraph_mode(mise, TRUE);
+    const Glib::ustring& mots = texte.Texte;
+    pango_layout_set_text(
+        mise, (mots.size() > CaracteresMax ? mots.substr(0, CaracteresMax) : mots).c_str(), -1);
+}
+
+}  // namespace
+
+TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte) : Angle(texte.Angle) {
+    RegleMiseEnPage(texte);
+    int w = 0, h = 0;
+    pango_layout_get_pixel_size(MiseEnPage(), &w, &h);
+    // Along the base side, and up from it, on the screen.
+    const PointVek u(std::cos(Angle), -std::sin(Angle));
+    const PointVek haut(-std::sin(Angle), -std::cos(Angle));
+    const PointVek debut = texte.Ancre - u * (texte.Centre ? w / 2.0 : 0.0);
+    Depart = debut + haut * h;
+    Depart = {std::round(Depart.x), std::round(Depart.y)};
+    // Slanted letters and accents may leave the logical box.
+    const double marge = std::ceil(h / 2.0) + 2.0;
+    CadreTourne = Boite::Autour(Depart, Depart + u * w);
+    for (const PointVek& coin : {Depart - haut * h, Depart + u * w - haut * h})
+        CadreTourne = CadreTourne.Avec(coin);
+    CadreTourne = CadreTourne.Elargie(marge);
+}
+
+void TexteMisEnPage::Peint(const Glib::RefPtr<Gdk::Drawable>& surface,
+                           const Gdk::Color& couleur) const {
+    cairo_t* cr = gdk_cairo_create(surface->gobj());
+    gdk_cairo_set_source_color(cr, couleur.gobj());
+    cairo_translate(cr, Depart.x, Depart.y);
+    cairo_rotate(cr, -Angle);
+    pango_cairo_show_layout(cr, MiseEnPage());
+    cairo_destroy(cr);
+}
