@@ -52,7 +52,7 @@ void EltArc::DessinePlein(Trace& trace) const {
     const ArcEcran arc = VersEcran();
     const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);
     if (!trace.Touche(boite, Style)) return;
-    trace.Compose(boite.Elargie(EpaisseurBornee(Style)), [&](Trace& t) {
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style) + 2.0), [&](Trace& t) {
         t.AppliqueTrait(Style, Trace::Surface);
         t.Arc(arc, true);
         if (!Style.Remplissage || !Style.Contour) return;

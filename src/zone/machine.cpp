@@ -16,11 +16,13 @@ void ZoneDessin::RazEtat() {
 
 void ZoneDessin::MetEtat(int etat) {
     Etat = etat;
-    if (LigneDe(etat).Premier == etat) {
+    const LigneEtat& ligne = LigneDe(etat);
+    if (ligne.Premier == etat) {
         EltCourant = EltCopie = nullptr;
         EltDeforme.reset();
     }
-    Dessus.Montre(Surimpression::Apercu, {});
+    // Within a ring the last preview stays until the pointer moves.
+    if (ligne.Premier == etat || !ligne.Apercu) Dessus.Montre(Surimpression::Apercu, {});
     MontrePoignees();
     AfficheEtat();
 }
@@ -37,7 +39,6 @@ void ZoneDessin::Clique(const PointVek& p) {
         MetEtat(ligne.Suivant);
     else
         AfficheEtat();
-    MajRepere();
 }
 
 void ZoneDessin::FinProfil() {

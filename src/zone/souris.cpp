@@ -70,6 +70,7 @@ bool ZoneDessin::on_button_press_event(GdkEventButton* evenement) {
     const PointVek pixel(evenement->x, evenement->y);
     if (evenement->button == 1) {
         SuitPointeur(pixel);
+        MajRepere();
         Clique(PositionClic(pixel));
         return true;
     }

@@ -48,7 +48,7 @@ void ZoneDessin::Redessine() {
 bool ZoneDessin::on_configure_event(GdkEventConfigure* evenement) {
     Dessus.MetFenetre(get_window());
     EchelleCourante.SetCentre(evenement->width, evenement->height);
-    Redessine();
+    VueChangee();
     return true;
 }
 
@@ -70,7 +70,7 @@ bool ZoneDessin::on_expose_event(GdkEventExpose* evenement) {
 void ZoneDessin::VueChangee() {
     Redessine();
     CacheRepere();
-    SuitPointeur(PixelSouris);
+    if (PixelSouris) SuitPointeur(*PixelSouris);
     if (Dessus.Visible(Surimpression::Apercu)) MontreApercu();
 }
 
@@ -183,7 +183,7 @@ void ZoneDessin::AnnuleSelection() {
 
 void ZoneDessin::ZoneTrait() {
     BddCourante.ChangeTraitZone(RectangleSelection, TraitCourant);
-    Redessine();
+    DessinChange();
 }
 
 bool ZoneDessin::DemandeRayon() {

@@ -99,6 +99,9 @@ class ZoneDessin : public Gtk::DrawingArea {
     /// Asks for `Rayon`; false when the user gives up.
     bool DemandeRayon();
 
+    /// Repaints after something in the drawing was changed or taken away.
+    void DessinChange();
+
     /// Repaints after a change of the view: the pointer's position follows from its pixel.
     void VueChangee();
 
@@ -132,9 +135,6 @@ class ZoneDessin : public Gtk::DrawingArea {
     void MontreApercu();
     void MontrePoignees();
 
-    /// Repaints after a command that acts on the drawing outside the tool in force.
-    void DessinChange();
-
     /// Moves the snap marker to what the pointer is near to.
     void MajRepere();
     void CacheRepere();
@@ -153,8 +153,8 @@ class ZoneDessin : public Gtk::DrawingArea {
     void ArrierePopup();
 
     int Etat = 0;
-    PointVek PixelSouris;  ///< Last pixel of the pointer.
-    PointVek PointSouris;  ///< The same in drawing units.
+    std::optional<PointVek> PixelSouris;  ///< Last pixel of the pointer; none before it came.
+    PointVek PointSouris;                 ///< The same in drawing units.
     Surimpression Dessus;
     std::optional<PointVek> Repere;  ///< The special point that a click would take, while shown.
     OptionsAccrochage Options;

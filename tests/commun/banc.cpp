@@ -9,9 +9,12 @@
 #include "model/echelle.h"
 
 void LaisseTourner() {
-    gdk_display_sync(gdk_display_get_default());
-    while (Gtk::Main::events_pending())
-        Gtk::Main::iteration(false);
+    // What the display answers may lead to another question.
+    for (int tour = 0; tour < 4; ++tour) {
+        gdk_display_sync(gdk_display_get_default());
+        while (Gtk::Main::events_pending())
+            Gtk::Main::iteration(false);
+    }
     gdk_display_sync(gdk_display_get_default());
 }
 

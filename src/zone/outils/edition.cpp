@@ -17,26 +17,31 @@ bool PrendPoignee(ZoneDessin& zone, const PointVek& p) {
     return true;
 }
 
+/// The copy brought to where a click at p would put it.
+std::unique_ptr<EltGeo> Deplace(const ZoneDessin& zone, const PointVek& p) {
+    auto deforme = zone.EltDeforme->Clone();
+    deforme->Deforme(p - zone.PointDepart);
+    return deforme;
+}
+
+/// What cannot be, such as a segment brought to a point, is not placed, and the drag goes on.
 bool Pose(ZoneDessin& zone, const PointVek& p) {
-    zone.EltDeforme->Deforme(p - zone.PointDepart);
+    auto deforme = Deplace(zone, p);
     // Only the left key makes a copy.
-    if (zone.Touche == GDK_Control_L)
-        BddCourante.Ajoute(std::move(zone.EltDeforme));
-    else
-        BddCourante.Change(*zone.EltCourant, *zone.EltDeforme);
-    zone.Redessine();
-    return true;
+    const bool pose = zone.Touche == GDK_Control_L
+                          ? BddCourante.Ajoute(std::move(deforme)) != nullptr
+                          : BddCourante.Change(*zone.EltCourant, *deforme);
+    zone.DessinChange();
+    return pose;
 }
 
 Bande ApercuPose(ZoneDessin& zone, const PointVek& p) {
-    const auto deforme = zone.EltDeforme->Clone();
-    deforme->Deforme(p - zone.PointDepart);
-    return BandeDe(*deforme);
+    return BandeDe(*Deplace(zone, p));
 }
 
 bool Supprime(ZoneDessin& zone, const PointVek& p) {
     BddCourante.Efface(p);
-    zone.Redessine();
+    zone.DessinChange();
     return true;
 }
 
