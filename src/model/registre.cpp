@@ -3,8 +3,10 @@
 #include "elements/eltarc.h"
 #include "elements/eltdisque.h"
 #include "elements/eltdroite.h"
+#include "elements/eltpoint.h"
 #include "elements/eltrectangle.h"
 #include "elements/eltsegment.h"
+#include "elements/elttxt.h"
 
 namespace {
 
@@ -21,7 +23,9 @@ struct Classe {
 const Classe Classes[] = {
     {TypeGeo, Cree<EltGeo>},
     {TypeSegment, Cree<EltSegment>},
+    {TypePoint, Cree<EltPoint>},
     {TypeArc, Cree<EltArc>},
+    {TypeTxt, Cree<EltTxt>},
     {TypeDisque, Cree<EltDisque>},
     {TypeRectangle, Cree<EltRectangle>},
     {TypeDroite, Cree<EltDroite>},

@@ -2,9 +2,10 @@
 
 template <class Action>
 void Prototypes::Chacun(const Action& action) {
-    for (EltGeo* elt :
-         {static_cast<EltGeo*>(&Droite), static_cast<EltGeo*>(&Segment), static_cast<EltGeo*>(&Arc),
-          static_cast<EltGeo*>(&Disque), static_cast<EltGeo*>(&Rectangle)})
+    const std::initializer_list<EltGeo*> prototypes = {
+        &Point, &Droite, &Segment, &Arc, &Disque, &Txt, &Rectangle,
+    };
+    for (EltGeo* elt : prototypes)
         action(*elt);
 }
 
