@@ -1,6 +1,7 @@
 #include "dialogs/saisiedialog.h"
 
 #include <gtkmm/box.h>
+#include <gtkmm/label.h>
 
 #include <algorithm>
 
@@ -25,8 +26,8 @@ Gtk::Window* FenetreParente() {
 
 }  // namespace
 
-ChampSaisie::ChampSaisie(const Glib::ustring& texte) {
-    set_max_length(50);
+ChampSaisie::ChampSaisie(const Glib::ustring& texte, int longueurMax) {
+    set_max_length(longueurMax);
     set_text(texte);
     select_region(0, -1);
     signal_changed().connect([this] { Modifie = true; });
@@ -36,7 +37,7 @@ std::optional<double> ChampSaisie::Nombre() const {
     return Modifie ? LitNombre(get_text()) : std::nullopt;
 }
 
-SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true) {
+SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true), Champs(1, 2) {
     if (Gtk::Window* parente = FenetreParente()) set_transient_for(*parente);
     set_border_width(6);
     get_vbox()->set_spacing(8);
@@ -54,6 +55,25 @@ void SaisieDialog::AjouteLigne(ChampSaisie& champ) {
     champ.set_width_chars(std::max<int>(24, static_cast<int>(get_title().length()) + 8));
     Branche(champ);
     get_vbox()->pack_start(champ, Gtk::PACK_SHRINK);
+    champ.show();
+}
+
+void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ) {
+    Branche(champ);
+    AjouteChamp(libelle, static_cast<Gtk::Widget&>(champ));
+}
+
+void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, Gtk::Widget& champ) {
+    if (!Champs.get_parent()) {
+        Champs.set_spacings(6);
+        get_vbox()->pack_start(Champs, Gtk::PACK_SHRINK);
+        Champs.show();
+    }
+    const auto rang = static_cast<guint>(Champs.get_children().size() / 2);
+    auto* texte = Gtk::manage(new Gtk::Label(libelle, Gtk::ALIGN_LEFT));
+    Champs.attach(*texte, 0, 1, rang, rang + 1, Gtk::FILL);
+    Champs.attach(champ, 1, 2, rang, rang + 1);
+    texte->show();
     champ.show();
 }
 

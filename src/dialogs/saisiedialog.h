@@ -2,13 +2,14 @@
 
 #include <gtkmm/dialog.h>
 #include <gtkmm/entry.h>
+#include <gtkmm/table.h>
 
 #include <optional>
 
 /// A text field that knows whether the user edited it.
 class ChampSaisie : public Gtk::Entry {
   public:
-    explicit ChampSaisie(const Glib::ustring& texte);
+    explicit ChampSaisie(const Glib::ustring& texte, int longueurMax = 50);
 
     bool EstModifie() const { return Modifie; }
 
@@ -26,14 +27,21 @@ class SaisieDialog : public Gtk::Dialog {
   protected:
     explicit SaisieDialog(const Glib::ustring& titre);
 
-    /// The Enter key in the field validates.
-    void Branche(ChampSaisie& champ);
-
     /// Shows the field on a line of its own, as wide as the title needs.
     void AjouteLigne(ChampSaisie& champ);
+
+    /// Shows the field or button beside its label, below the rows that stand already.
+    void AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ);
+    void AjouteChamp(const Glib::ustring& libelle, Gtk::Widget& champ);
 
     /// Gives the caller what was entered.
     virtual void Prend() = 0;
 
     void on_response(int reponse) override;
+
+  private:
+    /// The Enter key in the field validates.
+    void Branche(ChampSaisie& champ);
+
+    Gtk::Table Champs;
 };

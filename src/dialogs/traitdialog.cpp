@@ -1,7 +1,5 @@
 #include "dialogs/traitdialog.h"
 
-#include <gtkmm/label.h>
-
 #include "dialogs/demandecouleur.h"
 #include "dialogs/nombres.h"
 
@@ -12,7 +10,6 @@ TraitDialog::TraitDialog(const Glib::ustring& titre, Trait* trait)
       Epaisseur(TexteNombre(trait->Epaisseur)),
       AngleHachure(TexteNombre(trait->AngleHachureDegres())),
       PasHachure(TexteNombre(trait->PasHachure)),
-      Champs(3, 2),
       LigneStyles(false, 12),
       LigneSurface(false, 12),
       Plein("Continu"),
@@ -23,24 +20,14 @@ TraitDialog::TraitDialog(const Glib::ustring& titre, Trait* trait)
       Contour("Contour"),
       Hachure("Hachure"),
       BoutonFond("Couleur Fond") {
-    Champs.set_spacings(6);
-    AjouteChamp("Épaisseur", Epaisseur, 0);
-    AjouteChamp("Angle hachure", AngleHachure, 1);
-    AjouteChamp("Pas hachure", PasHachure, 2);
+    AjouteChamp("Épaisseur", Epaisseur);
+    AjouteChamp("Angle hachure", AngleHachure);
+    AjouteChamp("Pas hachure", PasHachure);
     RangeStyles();
     RangeSurface();
-    for (Gtk::Widget* ligne :
-         {static_cast<Gtk::Widget*>(&Champs), static_cast<Gtk::Widget*>(&LigneStyles),
-          static_cast<Gtk::Widget*>(&LigneSurface)})
+    for (Gtk::Widget* ligne : {&LigneStyles, &LigneSurface})
         get_vbox()->pack_start(*ligne, Gtk::PACK_SHRINK);
     show_all_children();
-}
-
-void TraitDialog::AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ, unsigned rang) {
-    auto* texte = Gtk::manage(new Gtk::Label(libelle, Gtk::ALIGN_LEFT));
-    Champs.attach(*texte, 0, 1, rang, rang + 1, Gtk::FILL);
-    Champs.attach(champ, 1, 2, rang, rang + 1);
-    Branche(champ);
 }
 
 void TraitDialog::RangeStyles() {

@@ -4,7 +4,6 @@
 #include <gtkmm/button.h>
 #include <gtkmm/checkbutton.h>
 #include <gtkmm/radiobutton.h>
-#include <gtkmm/table.h>
 
 #include "dialogs/saisiedialog.h"
 #include "elements/trait.h"
@@ -19,7 +18,6 @@ class TraitDialog : public SaisieDialog {
     void Prend() override;
 
   private:
-    void AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ, unsigned rang);
     void RangeStyles();
     void RangeSurface();
     void DemandeFond();
@@ -30,7 +28,6 @@ class TraitDialog : public SaisieDialog {
     ChampSaisie Epaisseur;
     ChampSaisie AngleHachure;  ///< Degrees.
     ChampSaisie PasHachure;    ///< Pixels.
-    Gtk::Table Champs;
     Gtk::HBox LigneStyles;
     Gtk::HBox LigneSurface;
     Gtk::RadioButton Plein;

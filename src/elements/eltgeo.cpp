@@ -3,6 +3,7 @@
 #include "elements/ecrivain.h"
 #include "elements/lecteur.h"
 #include "elements/trace.h"
+#include "elements/tuile.h"
 #include "elements/vue.h"
 
 int PoigneeCourante = 0;
@@ -36,9 +37,16 @@ void EltGeo::CopieFils(const EltGeo& source) {
 
 void EltGeo::Dessine(Trace& trace) const {
     const PointVek p = vue::VersEcran(Position);
-    if (!trace.Touche(Boite::Autour(p, p).Elargie(5.0), Style)) return;
-    trace.AppliqueTrait(Style, Trace::Ligne);
-    trace.Croix(p, 5.0);
+    DessineCroix(trace, p, 5.0);
+}
+
+void EltGeo::DessineCroix(Trace& trace, const PointVek& p, double bras) const {
+    const Boite boite = Boite::Autour(p, p).Elargie(bras);
+    if (!trace.Touche(boite, Style)) return;
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style) + 2.0), [&](Trace& t) {
+        t.AppliqueTrait(Style, Trace::Ligne);
+        t.Croix(p, bras);
+    });
 }
 
 void EltGeo::DessinePoignees(Trace& trace) const {

@@ -107,5 +107,8 @@ class EltGeo {
     int Calque = 0;
 
   protected:
+    /// Marks a place in pixels by two lines of bras pixels to each side.
+    void DessineCroix(Trace& trace, const PointVek& p, double bras) const;
+
     void CopieFils(const EltGeo& source);
 };

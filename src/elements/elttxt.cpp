@@ -59,8 +59,7 @@ void EltTxt::DessineTexte(Trace& trace, const Glib::ustring& texte, double angle
     const PointVek ancre = vue::VersEcran(Position);
     const double portee = vue::LongueurEcran(Portee(texte));
     if (!trace.Touche(Boite::Autour(ancre, ancre).Elargie(portee), Style)) return;
-    trace.AppliqueTrait(Style, Trace::Ligne);
-    trace.Croix(ancre, 1.0);
+    DessineCroix(trace, ancre, 1.0);
     trace.Texte({texte, Police, vue::LongueurEcran(Taille), angle + vue::Rotation(), centre, ancre},
                 Style.Couleur);
 }

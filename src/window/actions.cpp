@@ -192,7 +192,7 @@ const std::vector<LigneAction>& TableActions() {
                  &OptionsAccrochage::Extremites),
         Simple("Couleur", "_Couleur", &DessinWindow::Couleur),
         Simple("Trait", "_Trait", &DessinWindow::Trait),
-        Simple("PrefTxt", "_Préférences Textes"),
+        Simple("PrefTxt", "_Préférences Textes", &DessinWindow::PrefTxt),
         Simple("PrefCote", "_Préférences Cotes"),
         SousMenu("MenuAffichage", "_Affichage"),
         Simple("ZoomPlus", "Zoom _Plus", &ZoneDessin::ZoomPlusAction, "O"),

@@ -1,6 +1,7 @@
 // The layers, and the settings that a dialog asks for.
 
 #include "dialogs/demandecouleur.h"
+#include "dialogs/elttxtdialog.h"
 #include "dialogs/intdialog.h"
 #include "dialogs/reeldialog.h"
 #include "dialogs/traitdialog.h"
@@ -32,6 +33,10 @@ void DessinWindow::GrillePas() {
 void DessinWindow::GrilleCouleur() {
     Gdk::Color couleur = Zone.GrilleDuMoment().Style.Couleur;
     if (DemandeCouleur(this, "Couleur de la Grille", couleur)) Zone.SetCouleurGrille(couleur);
+}
+
+void DessinWindow::PrefTxt() {
+    EltTxtDialog("Préférences Texte", &Zone.Protos.Txt).run();
 }
 
 void DessinWindow::CouleurFond() {

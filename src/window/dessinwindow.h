@@ -45,6 +45,7 @@ class DessinWindow : public Gtk::Window {
     void GrilleCouleur();
     void Couleur();
     void Trait();
+    void PrefTxt();
     void CouleurFond();
     void BoiteAOutil();
     void Etat();
