@@ -7,11 +7,11 @@ for essai in 1 2 3 4 5; do
     debut=$(date +%s%N)
     "$@" > /dev/null 2>&1 &
     programme=$!
-    until xdotool search --onlyvisible --pid "$programme" > /dev/null 2>&1; do
-        sleep 0.002
+    for tour in $(seq 2000); do
+        if timeout 2 xdotool search --onlyvisible --name "KR VEK" > /dev/null 2>&1; then break; fi
     done
     duree=$((($(date +%s%N) - debut) / 1000000))
-    kill "$programme" 2> /dev/null
+    kill "$programme" 2> /dev/null || true
     wait "$programme" 2> /dev/null || true
     if [ -z "$meilleur" ] || [ "$duree" -lt "$meilleur" ]; then meilleur=$duree; fi
 done

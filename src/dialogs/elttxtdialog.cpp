@@ -11,23 +11,29 @@ constexpr int LongueurTexte = 255;
 
 }  // namespace
 
-EltTxtDialog::EltTxtDialog(const Glib::ustring& titre, EltTxt* txt, bool avecAngle)
-    : SaisieDialog(titre),
-      Valeur(txt),
-      Texte(txt->Texte, LongueurTexte),
-      Angle(TexteNombre(txt->GetAngleDegres())),
-      Taille(TexteNombre(txt->Taille)) {
+ChampsTxt::ChampsTxt(const EltTxt& txt)
+    : Texte(txt.Texte, LongueurTexte),
+      Angle(TexteNombre(txt.GetAngleDegres())),
+      Taille(TexteNombre(txt.Taille)) {
     Texte.set_width_chars(32);
-    MontrePolice(Police, txt->Police);
-    AjouteChamp("Texte", Texte);
-    if (avecAngle) AjouteChamp("Angle", Angle);
-    AjouteChamp("Taille", Taille);
-    AjouteChamp("Police", Police);
+    MontrePolice(Police, txt.Police);
+}
+
+void ChampsTxt::Prend(EltTxt& txt) const {
+    if (Texte.EstModifie()) txt.SetTexte(Texte.get_text());
+    if (const auto degres = Angle.Nombre()) txt.SetAngleDegres(*degres);
+    if (const auto taille = Taille.Nombre()) txt.SetTaille(*taille);
+    txt.Police = PoliceChoisie(Police, txt.Police);
+}
+
+EltTxtDialog::EltTxtDialog(const Glib::ustring& titre, EltTxt* txt, bool avecAngle)
+    : SaisieDialog(titre), Valeur(txt), Champs(*txt) {
+    AjouteChamp("Texte", Champs.Texte);
+    if (avecAngle) AjouteChamp("Angle", Champs.Angle);
+    AjouteChamp("Taille", Champs.Taille);
+    AjouteChamp("Police", Champs.Police);
 }
 
 void EltTxtDialog::Prend() {
-    if (Texte.EstModifie()) Valeur->SetTexte(Texte.get_text());
-    if (const auto degres = Angle.Nombre()) Valeur->SetAngleDegres(*degres);
-    if (const auto taille = Taille.Nombre()) Valeur->SetTaille(*taille);
-    Valeur->Police = PoliceChoisie(Police, Valeur->Police);
+    Champs.Prend(*Valeur);
 }

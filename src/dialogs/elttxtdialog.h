@@ -6,6 +6,19 @@
 
 class EltTxt;
 
+/// The fields of a text, as the dialogs on one show them.
+struct ChampsTxt {
+    explicit ChampsTxt(const EltTxt& txt);
+
+    /// Gives the text what was edited.
+    void Prend(EltTxt& txt) const;
+
+    ChampSaisie Texte;
+    ChampSaisie Angle;  ///< Degrees.
+    ChampSaisie Taille;
+    Gtk::FontButton Police;
+};
+
 /// Asks for the words of a text and how they look.
 class EltTxtDialog : public SaisieDialog {
   public:
@@ -17,8 +30,5 @@ class EltTxtDialog : public SaisieDialog {
 
   private:
     EltTxt* Valeur;
-    ChampSaisie Texte;
-    ChampSaisie Angle;  ///< Degrees.
-    ChampSaisie Taille;
-    Gtk::FontButton Police;
+    ChampsTxt Champs;
 };

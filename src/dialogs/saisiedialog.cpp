@@ -14,12 +14,12 @@ namespace {
 Gtk::Window* FenetreParente() {
     Gtk::Window* modale = nullptr;
     Gtk::Window* ancienne = nullptr;
-    // The newest come first.
+    // The oldest come first.
     for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
         if (!fenetre->is_visible() || fenetre->get_window_type() != Gtk::WINDOW_TOPLEVEL) continue;
         if (fenetre->property_is_active()) return fenetre;
-        if (!modale && fenetre->get_modal()) modale = fenetre;
-        ancienne = fenetre;
+        if (fenetre->get_modal()) modale = fenetre;
+        if (!ancienne) ancienne = fenetre;
     }
     return modale ? modale : ancienne;
 }

@@ -39,9 +39,9 @@ class SaisieDialog : public Gtk::Dialog {
 
     void on_response(int reponse) override;
 
-  private:
     /// The Enter key in the field validates.
     void Branche(ChampSaisie& champ);
 
+  private:
     Gtk::Table Champs;
 };

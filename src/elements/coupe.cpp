@@ -43,20 +43,20 @@ void CoupeContour(std::vector<PointVek>& sommets, const Cote& cote) {
     sommets.swap(garde);
 }
 
-void Subdivise(const ArcEcran& arc, double a0, double a1, const Boite& boite, int profondeur,
-               std::vector<double>& angles) {
+void Subdivise(const ArcEcran& arc, double a0, double a1, const Boite& boite, double flecheMax,
+               int profondeur, std::vector<double>& angles) {
     const double demi = std::abs(a1 - a0) / 2.0;
     const double fleche = arc.Rayon * (1.0 - std::cos(demi));
     const PointVek milieu = (arc.Point(a0) + arc.Point(a1)) / 2.0;
     const Boite portee = Boite::Autour(milieu, milieu).Elargie(arc.Rayon * std::sin(demi) + fleche);
-    const bool assezFin = demi < Pi / 4.0 && (fleche < 0.25 || !portee.Touche(boite));
+    const bool assezFin = demi < Pi / 4.0 && (fleche < flecheMax || !portee.Touche(boite));
     if (assezFin || profondeur == 0) {
         angles.push_back(a1);
         return;
     }
     const double am = (a0 + a1) / 2.0;
-    Subdivise(arc, a0, am, boite, profondeur - 1, angles);
-    Subdivise(arc, am, a1, boite, profondeur - 1, angles);
+    Subdivise(arc, a0, am, boite, flecheMax, profondeur - 1, angles);
+    Subdivise(arc, am, a1, boite, flecheMax, profondeur - 1, angles);
 }
 
 }  // namespace
@@ -83,9 +83,16 @@ PointVek ArcEcran::Point(double angle) const {
     return {Centre.x + Rayon * std::cos(angle), Centre.y - Rayon * std::sin(angle)};
 }
 
-std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite) {
+std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite, double fleche) {
     constexpr int profondeurMax = 40;
     std::vector<double> angles{arc.Debut};
-    Subdivise(arc, arc.Debut, arc.Debut + arc.Ouverture, boite, profondeurMax, angles);
+    Subdivise(arc, arc.Debut, arc.Debut + arc.Ouverture, boite, fleche, profondeurMax, angles);
     return angles;
+}
+
+Boite LienEcran::Cadre() const {
+    if (!Arc) return Boite::Autour(Debut, Fin);
+    // Half a turn and less stays within the circle about its chord.
+    const PointVek milieu = (Debut + Fin) / 2.0;
+    return Boite::Autour(milieu, milieu).Elargie(Distance(Debut, Fin) / 2.0);
 }

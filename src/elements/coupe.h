@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "elements/boite.h"
@@ -22,6 +23,17 @@ struct ArcEcran {
     PointVek Point(double angle) const;
 };
 
-/// Angles along the arc, both ends included, whose chords stay within a quarter pixel of it
-/// wherever it may touch the box. Their number grows with the logarithm of the radius.
-std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite);
+/// Angles along the arc, both ends included, whose chords stay within fleche pixels of it wherever
+/// it may touch the box. Their number grows with the logarithm of the radius.
+std::vector<double> PasArc(const ArcEcran& arc, const Boite& boite, double fleche = 0.25);
+
+/// One piece of a contour: a line or an arc of at most half a turn.
+struct LienEcran {
+    PointVek Debut;
+    PointVek Fin;
+    std::optional<ArcEcran> Arc;
+    bool Visible = true;  ///< What is not visible still bounds the surface, as a line.
+
+    /// A box that holds it.
+    Boite Cadre() const;
+};

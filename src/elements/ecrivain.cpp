@@ -3,6 +3,19 @@
 #include <charconv>
 #include <cmath>
 
+namespace {
+
+constexpr std::size_t TailleNombre = 32;
+
+/// Writes the number into the buffer and answers its end.
+char* Chiffre(char (&chiffres)[TailleNombre], double valeur) {
+    const double fini = std::isfinite(valeur) ? valeur : 0.0;
+    return std::to_chars(chiffres, chiffres + TailleNombre, fini, std::chars_format::general, 6)
+        .ptr;
+}
+
+}  // namespace
+
 Ecrivain& Ecrivain::operator<<(char c) {
     Tampon += c;
     return *this;
@@ -25,11 +38,14 @@ Ecrivain& Ecrivain::operator<<(bool valeur) {
 }
 
 Ecrivain& Ecrivain::operator<<(double valeur) {
-    char chiffres[32];
-    const double fini = std::isfinite(valeur) ? valeur : 0.0;
-    const auto fin =
-        std::to_chars(chiffres, chiffres + sizeof chiffres, fini, std::chars_format::general, 6)
-            .ptr;
-    Tampon.append(chiffres, fin);
+    char chiffres[TailleNombre];
+    Tampon.append(chiffres, Chiffre(chiffres, valeur));
     return *this;
+}
+
+double CommeEcrit(double valeur) {
+    char chiffres[TailleNombre];
+    double lue = 0.0;
+    std::from_chars(chiffres, Chiffre(chiffres, valeur), lue);
+    return lue;
 }

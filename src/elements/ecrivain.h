@@ -3,6 +3,9 @@
 #include <string>
 #include <string_view>
 
+/// The value that a reader finds where this one was written.
+double CommeEcrit(double valeur);
+
 /// Builds the text of a file: numbers with a decimal point whatever the locale, doubles with at
 /// most 6 significant digits in the shorter of fixed and exponent form.
 class Ecrivain {

@@ -41,6 +41,7 @@ class EltArc : public EltGeo {
     double DistanceSupport(const PointVek& p) const override;
     Minorant MinorantDistance() const override;
     PointVek PointProche(const PointVek& p) const override;
+    bool Proprietes() override;
 
     /// (0, radius).
     PointVek Direction() const override;

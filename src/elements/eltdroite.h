@@ -18,6 +18,7 @@ class EltDroite : public EltSegment {
     void ChangeTrait(const Trait& trait) override;
     double Distance(const PointVek& p) const override;
     Minorant MinorantDistance() const override;
+    bool Proprietes() override;
 
     /// Moves the whole line.
     void SetOrigine(const PointVek& p) override;

@@ -85,7 +85,11 @@ void EltGeo::Deforme(const PointVek& v) {
 }
 
 void EltGeo::Sauve(Ecrivain& sortie) const {
-    sortie << Type << ' ' << Style << ' ' << Calque << '\n' << Position << '\n';
+    SauveCommun(sortie, Position);
+}
+
+void EltGeo::SauveCommun(Ecrivain& sortie, const PointVek& position) const {
+    sortie << Type << ' ' << Style << ' ' << Calque << '\n' << position << '\n';
 }
 
 void EltGeo::Charge(Lecteur& entree) {

@@ -81,6 +81,10 @@ class EltGeo {
     /// The special point (end, middle, corner) nearest to p.
     virtual PointVek PointProche(const PointVek& p) const;
 
+    /// Asks the user for what defines the element, and takes it on; false when he gives up. Defined
+    /// beside its dialog.
+    virtual bool Proprietes();
+
     /// A vector along the element; null when the element is too small to be kept.
     virtual PointVek Direction() const;
 
@@ -107,6 +111,9 @@ class EltGeo {
     int Calque = 0;
 
   protected:
+    /// Writes the record common to all elements with that position.
+    void SauveCommun(Ecrivain& sortie, const PointVek& position) const;
+
     /// Marks a place in pixels by two lines of bras pixels to each side.
     void DessineCroix(Trace& trace, const PointVek& p, double bras) const;
 

@@ -23,6 +23,7 @@ class EltRectangle : public EltSegment {
     double DistanceSupport(const PointVek& p) const override;
     Minorant MinorantDistance() const override;
     PointVek PointProche(const PointVek& p) const override;
+    bool Proprietes() override;
 
     /// Moves the whole rectangle.
     void SetOrigine(const PointVek& p) override;

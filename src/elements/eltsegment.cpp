@@ -82,7 +82,9 @@ void EltSegment::Deforme(const PointVek& v) {
 }
 
 void EltSegment::Sauve(Ecrivain& sortie) const {
-    EltGeo::Sauve(sortie);
+    // The middle of the ends as they are written, so that a drawing that is opened and saved again
+    // gives the same file.
+    SauveCommun(sortie, (CommeEcrit(Origine) + CommeEcrit(Extremite)) / 2.0);
     sortie << Origine << ' ' << Extremite << '\n';
 }
 

@@ -29,6 +29,7 @@ class EltSegment : public EltGeo {
     Minorant MinorantDistance() const override;
     void Recalcule() override;
     PointVek PointProche(const PointVek& p) const override;
+    bool Proprietes() override;
 
     /// Unit vector from origin to end; not a number for a null segment.
     PointVek Direction() const override;

@@ -60,7 +60,8 @@ void EltTxt::DessineTexte(Trace& trace, const Glib::ustring& texte, double angle
     const double portee = vue::LongueurEcran(Portee(texte));
     if (!trace.Touche(Boite::Autour(ancre, ancre).Elargie(portee), Style)) return;
     DessineCroix(trace, ancre, 1.0);
-    trace.Texte({texte, Police, vue::LongueurEcran(Taille), angle + vue::Rotation(), centre, ancre},
+    trace.Texte({texte, Police, vue::LongueurEcran(Taille), angle + vue::Rotation(),
+                 centre ? TexteEcran::Milieu : TexteEcran::Debut, ancre},
                 Style.Couleur);
 }
 

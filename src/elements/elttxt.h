@@ -17,6 +17,7 @@ class EltTxt : public EltGeo {
     void Sauve(Ecrivain& sortie) const override;
     void Charge(Lecteur& entree) override;
     Minorant MinorantDistance() const override;
+    bool Proprietes() override;
     bool EstFini() const override;
 
     /// Takes one line: line ends and other control characters become blanks.

@@ -94,6 +94,15 @@ std::string_view Lecteur::Ligne() {
     return {debut, static_cast<std::size_t>(fin - debut)};
 }
 
+char Lecteur::Caractere() {
+    if (EnEchec) return 0;
+    if (Position == Borne) {
+        AuBout = true;
+        return 0;
+    }
+    return *Position++;
+}
+
 void Lecteur::RefuseVersion(std::string_view mot) {
     if (!Refusee) Refusee = std::string(mot);
 }

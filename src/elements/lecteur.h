@@ -33,6 +33,24 @@ class Lecteur {
     /// The rest of the present line, without its end; empty, with failure, at the end of the text.
     std::string_view Ligne();
 
+    /// The very next character, blank or not; 0 at the end of the text.
+    char Caractere();
+
+    /// Counts how deep frames stand in one another while it lives; deeper than maximum puts the
+    /// reader into failure.
+    class Niveau {
+      public:
+        Niveau(Lecteur& lecteur, int maximum) : Lu(lecteur) {
+            if (++Lu.Profondeur > maximum) Lu.EnEchec = true;
+        }
+        ~Niveau() { --Lu.Profondeur; }
+        Niveau(const Niveau&) = delete;
+        Niveau& operator=(const Niveau&) = delete;
+
+      private:
+        Lecteur& Lu;
+    };
+
     /// Notes the first version word that could not be accepted, for whoever started the load.
     void RefuseVersion(std::string_view mot);
 
@@ -47,5 +65,6 @@ class Lecteur {
     const char* Borne;
     bool EnEchec = false;
     bool AuBout = false;
+    int Profondeur = 0;
     std::optional<std::string> Refusee;
 };

@@ -79,6 +79,25 @@ class Liste {
         return false;
     }
 
+    /// Unlinks every value for which choisi answers true, in one pass, and hands each to retire.
+    template <class Choisi, class Retire>
+    void RetireSi(const Choisi& choisi, const Retire& retire) {
+        Maillon* precedent = nullptr;
+        for (Maillon* m = Tete; m;) {
+            Maillon* suivant = m->Suivant;
+            if (choisi(*m->Valeur)) {
+                (precedent ? precedent->Suivant : Tete) = suivant;
+                if (Queue == m) Queue = precedent;
+                --Compte;
+                retire(m->Valeur);
+                delete m;
+            } else {
+                precedent = m;
+            }
+            m = suivant;
+        }
+    }
+
     bool Contient(const T* valeur) const {
         for (const T* v : *this)
             if (v == valeur) return true;

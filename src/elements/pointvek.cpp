@@ -52,6 +52,10 @@ Lecteur& operator>>(Lecteur& entree, PointVek& p) {
     return entree >> p.x >> p.y >> p.z;
 }
 
+PointVek CommeEcrit(const PointVek& p) {
+    return {CommeEcrit(p.x), CommeEcrit(p.y), CommeEcrit(p.z)};
+}
+
 PointVek operator-(const PointVek& a, const PointVek& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }

@@ -40,6 +40,9 @@ struct PointVek {
 Ecrivain& operator<<(Ecrivain& sortie, const PointVek& p);
 Lecteur& operator>>(Lecteur& entree, PointVek& p);
 
+/// The point that a reader finds where this one was written.
+PointVek CommeEcrit(const PointVek& p);
+
 PointVek operator-(const PointVek& a, const PointVek& b);
 PointVek operator+(const PointVek& a, const PointVek& b);
 PointVek operator-(const PointVek& a);

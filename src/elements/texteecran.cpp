@@ -47,8 +47,9 @@ TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte) : Angle(texte.Angle) {
     // Along the base side, and up from it, on the screen.
     const PointVek u(std::cos(Angle), -std::sin(Angle));
     const PointVek haut(-std::sin(Angle), -std::cos(Angle));
-    const PointVek debut = texte.Ancre - u * (texte.Centre ? w / 2.0 : 0.0);
-    Depart = debut + haut * h;
+    const double recul = texte.Accroche == TexteEcran::Milieu ? w / 2.0 : 0.0;
+    const double montee = texte.Accroche == TexteEcran::CoinHaut ? 0.0 : h;
+    Depart = texte.Ancre - u * recul + haut * montee;
     Depart = {std::round(Depart.x), std::round(Depart.y)};
     // Slanted letters and accents may leave the logical box.
     const double marge = std::ceil(h / 2.0) + 2.0;

@@ -12,7 +12,9 @@ struct TexteEcran {
     Glib::ustring Police;  ///< A font description.
     double Taille;
     double Angle;  ///< Radians, counter-clockwise as seen.
-    bool Centre;   ///< The anchor is the middle of the base side, else its start.
+
+    /// What of the text lies at its anchor.
+    enum Point { Debut, Milieu, CoinHaut } Accroche;
     PointVek Ancre;
 
     /// Too small to be read, or larger than any screen.

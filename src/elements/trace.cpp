@@ -34,6 +34,25 @@ int Pixels(double v) {
     return static_cast<int>(std::lround(v));
 }
 
+/// True when the window system can paint the arc.
+bool EstDirect(const ArcEcran& arc) {
+    const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);
+    return arc.Rayon <= RayonDirect && Envoyable.Contient({boite.Gauche, boite.Haut}) &&
+           Envoyable.Contient({boite.Droite, boite.Bas});
+}
+
+/// The whole pixels by which the window system takes the circle of an arc.
+struct Carre {
+    explicit Carre(const ArcEcran& arc)
+        : x(Pixels(arc.Centre.x - arc.Rayon)),
+          y(Pixels(arc.Centre.y - arc.Rayon)),
+          Cote(Pixels(2.0 * arc.Rayon)) {}
+
+    int x;
+    int y;
+    int Cote;
+};
+
 }  // namespace
 
 Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur)
@@ -217,35 +236,78 @@ void Trace::Arc(ArcEcran arc, bool plein) {
     if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon) || arc.Rayon < 0.0) return;
     arc.Debut = std::fmod(arc.Debut, DeuxPi);
     arc.Ouverture = std::clamp(arc.Ouverture, -DeuxPi, DeuxPi);
-    const Boite boite = Boite::Autour(arc.Centre, arc.Centre).Elargie(arc.Rayon);
-    if (arc.Rayon > RayonDirect || !Envoyable.Contient({boite.Gauche, boite.Haut}) ||
-        !Envoyable.Contient({boite.Droite, boite.Bas})) {
+    if (!EstDirect(arc)) {
         ArcParPas(arc, plein);
         return;
     }
     PlacePhase(0.0);
-    const int cote = Pixels(2.0 * arc.Rayon);
-    gdk_draw_arc(Support->gobj(), Contexte->gobj(), plein, Pixels(boite.Gauche), Pixels(boite.Haut),
-                 cote, cote, Pixels(EnDegres(arc.Debut) * 64.0),
-                 Pixels(EnDegres(arc.Ouverture) * 64.0));
+    const Carre carre(arc);
+    gdk_draw_arc(Support->gobj(), Contexte->gobj(), plein, carre.x, carre.y, carre.Cote, carre.Cote,
+                 Pixels(EnDegres(arc.Debut) * 64.0), Pixels(EnDegres(arc.Ouverture) * 64.0));
+}
+
+std::vector<double> Trace::PasVisibles(const ArcEcran& arc) const {
+    return PasArc(arc, Aire.Elargie(EpaisseurPosee + 2.0));
+}
+
+void Trace::Remplit(std::vector<PointVek> sommets) {
+    std::vector<GdkPoint> pixels;
+    for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable))
+        if (p.EstFini()) pixels.push_back({Pixels(p.x), Pixels(p.y)});
+    if (pixels.size() > 2)
+        gdk_draw_polygon(Support->gobj(), Contexte->gobj(), TRUE, pixels.data(),
+                         static_cast<int>(pixels.size()));
+}
+
+void Trace::Lien(const LienEcran& lien) {
+    if (!lien.Visible) return;
+    if (lien.Arc)
+        Arc(*lien.Arc, false);
+    else
+        Segment(lien.Debut, lien.Fin);
+}
+
+void Trace::Polygone(const std::vector<LienEcran>& liens) {
+    std::vector<PointVek> sommets;
+    for (const LienEcran& lien : liens) {
+        sommets.push_back(lien.Debut);
+        if (lien.Arc) AjouteBord(*lien.Arc, sommets);
+        sommets.push_back(lien.Fin);
+    }
+    Remplit(std::move(sommets));
+}
+
+void Trace::AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) const {
+    if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon)) return;
+    if (!EstDirect(arc)) {
+        for (const double angle : PasVisibles(arc))
+            sommets.push_back(arc.Point(angle));
+        return;
+    }
+    // Through pixels that the arc's line covers, close to one another: what lies between the edge
+    // and the line would keep the colour of the background.
+    constexpr double fleche = 0.02, demiPixel = 0.5;
+    const Carre carre(arc);
+    const double rayon = carre.Cote / 2.0;
+    const ArcEcran peint{{carre.x + rayon, carre.y + rayon}, rayon, arc.Debut, arc.Ouverture};
+    for (const double angle : PasArc(peint, Envoyable, fleche)) {
+        const PointVek p = peint.Point(angle);
+        const PointVek pixel(std::round(p.x), std::round(p.y));
+        if (std::abs(Distance(pixel, peint.Centre) - rayon) <= demiPixel) sommets.push_back(pixel);
+    }
 }
 
 void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
-    const Boite vue = Aire.Elargie(EpaisseurPosee + 2.0);
-    const std::vector<double> angles = PasArc(arc, vue);
+    const std::vector<double> angles = PasVisibles(arc);
     if (plein) {
         std::vector<PointVek> sommets;
         if (std::abs(arc.Ouverture) < DeuxPi) sommets.push_back(arc.Centre);
         for (const double angle : angles)
             sommets.push_back(arc.Point(angle));
-        std::vector<GdkPoint> pixels;
-        for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable))
-            pixels.push_back({Pixels(p.x), Pixels(p.y)});
-        if (pixels.size() > 2)
-            gdk_draw_polygon(Support->gobj(), Contexte->gobj(), TRUE, pixels.data(),
-                             static_cast<int>(pixels.size()));
+        Remplit(std::move(sommets));
         return;
     }
+    const Boite vue = Aire.Elargie(EpaisseurPosee + 2.0);
     std::vector<PointVek> suite;
     double phase = 0.0;
     const auto envoie = [&] {
@@ -313,13 +375,12 @@ void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool
 
 void Trace::Poignee(const PointVek& centre) {
     if (!Envoyable.Contient(centre)) return;
-    const GdkPoint p{Pixels(centre.x), Pixels(centre.y)};
+    const int x = Pixels(centre.x), y = Pixels(centre.y);
     // Two handles on the same pixels would take each other away in a band.
-    for (const GdkPoint& peinte : PoigneesPeintes)
-        if (peinte.x == p.x && peinte.y == p.y) return;
-    PoigneesPeintes.push_back(p);
-    PlacePhase(0.0);
-    gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, p.x - 5, p.y - 5, 10, 10);
+    if (!PoigneesPeintes.emplace(x, y).second) return;
+    // Whatever the element's line: dashes or a width would make it unreadable.
+    AppliqueLigne(1, Continu);
+    gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, x - 5, y - 5, 10, 10);
 }
 
 void Trace::Croix(const PointVek& centre, double bras) {

@@ -5,6 +5,8 @@
 #include <gdkmm/rectangle.h>
 
 #include <functional>
+#include <set>
+#include <utility>
 #include <vector>
 
 #include "elements/coupe.h"
@@ -50,6 +52,12 @@ class Trace {
     /// The arc's line, or with plein its sector.
     void Arc(ArcEcran arc, bool plein);
 
+    void Lien(const LienEcran& lien);
+
+    /// The surface that the links enclose, each starting where the one before it ends; its edge
+    /// runs below the pixels of the links' own lines.
+    void Polygone(const std::vector<LienEcran>& liens);
+
     void Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein);
 
     /// The open square of 10 by 10 pixels that marks a grab handle.
@@ -59,6 +67,10 @@ class Trace {
     void Croix(const PointVek& centre, double bras);
 
     void Texte(const TexteEcran& texte, const Gdk::Color& couleur);
+
+    /// Whether one more content may be painted through an image: a drawing whose images hold one
+    /// another must not take for ever.
+    bool PeutPeindreContenu() { return ++ContenusPeints <= 100000; }
 
     /// One pixel.
     void Point(const PointVek& p);
@@ -74,6 +86,11 @@ class Trace {
     /// A line whose dashes have already run over phase pixels.
     void LigneDepuis(const PointVek& a, const PointVek& b, double phase);
     void ArcParPas(const ArcEcran& arc, bool plein);
+
+    /// The steps of an arc too large for the window system.
+    std::vector<double> PasVisibles(const ArcEcran& arc) const;
+    void AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) const;
+    void Remplit(std::vector<PointVek> sommets);
     void PlacePhase(double phase);
     /// The colour, or the inverse of the background where that would hide it in a band.
     Gdk::Color Visible(const Gdk::Color& couleur) const;
@@ -99,5 +116,6 @@ class Trace {
     bool Tuilage = false;
     Glib::RefPtr<Gdk::Pixmap> TuilePosee;
     Trait TraitTuile;
-    std::vector<GdkPoint> PoigneesPeintes;
+    std::set<std::pair<int, int>> PoigneesPeintes;
+    int ContenusPeints = 0;
 };

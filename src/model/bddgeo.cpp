@@ -43,7 +43,7 @@ void BDDGeo::Dessine(Trace& trace) const {
         return;
     }
     // Wide enough for the widest line and for what is painted at a fixed size in pixels.
-    constexpr double marge = 150.0;
+    constexpr double marge = 64.0;
     const Boite pixels = trace.ZonePeinte().Elargie(marge);
     const Boite zone = Boite::Autour(EchelleCourante.VersDessin({pixels.Gauche, pixels.Haut}),
                                      EchelleCourante.VersDessin({pixels.Droite, pixels.Bas}));
@@ -80,7 +80,7 @@ bool BDDGeo::Annule() {
     switch (pas.Quoi) {
         case EnregAnnul::Retire:
             // At the tail, not at its old place: that is meant.
-            AjouteFin(std::move(pas.Element));
+            AjouteFin(std::move(pas.Element))->ReferenceFils();
             break;
         case EnregAnnul::Ajoute:
             Retire(pas.Cible);
@@ -91,6 +91,12 @@ bool BDDGeo::Annule() {
             pas.Cible->Copie(*pas.Element);
             pas.Cible->ReferenceFils();
             Table.Perime();
+            break;
+        case EnregAnnul::Coupe:
+            AnnuleCoupe(pas.Nombre);
+            break;
+        case EnregAnnul::Colle:
+            AnnuleColle(pas.Nombre);
             break;
     }
     return true;
@@ -162,6 +168,15 @@ bool BDDGeo::Efface(const PointVek& p) {
     if (!elt || elt->NbParents != 0) return false;
     Annulations.push_back({EnregAnnul::Retire, Retire(elt), nullptr});
     Modifie = true;
+    return true;
+}
+
+bool BDDGeo::ProprieteProche(const PointVek& p) {
+    EltGeo* elt = Cherche(p);
+    if (!elt) return false;
+    Modifie = true;
+    elt->Proprietes();
+    Table.Perime();
     return true;
 }
 

@@ -6,17 +6,20 @@
 #include <vector>
 
 #include "model/bddgeobase.h"
+#include "model/bddgeoclipboard.h"
 #include "model/tablerecherche.h"
 
+class EltBDD;
 class EltRectangle;
 
 /// One step that can be undone.
 struct EnregAnnul {
-    enum Genre { Retire = 1, Ajoute = 2, Change = 3 };
+    enum Genre { Retire = 1, Ajoute = 2, Change = 3, Coupe = 6, Colle = 7 };
 
     Genre Quoi;
     std::unique_ptr<EltGeo> Element;  ///< What was removed, or the element as it was before.
     EltGeo* Cible = nullptr;          ///< The element in the list that was added or changed.
+    int Nombre = 0;  ///< For a cut or a paste: how many records before it belong to it.
 };
 
 /// The drawing: elements with undo, the searches at a point, and the file.
@@ -61,8 +64,27 @@ class BDDGeo : public BDDGeoBase {
     // Commands on the element at a point; false when there is none. An element that another holds
     // as a child is not removed.
     bool Efface(const PointVek& p);
+
+    /// Asks the user for the element's properties. The drawing counts as modified whatever he
+    /// answers, and what he changes cannot be undone: that is meant.
+    bool ProprieteProche(const PointVek& p);
     bool Avant(const PointVek& p);
     bool Arriere(const PointVek& p);
+
+    /// The group of that name nearest to the head, null when there is none; of the drawing itself,
+    /// not of groups within groups.
+    const EltBDD* ChercheBDD(const Glib::ustring& identificateur) const;
+
+    /// Fills `PressePapier` with clones of the visible elements in the zone, groups left out, and
+    /// when couper takes the elements away, but for those that another one holds.
+    void CopieZone(const EltRectangle& zone, bool couper);
+
+    /// Adds clones of what is to be pasted, brought to p, on that layer.
+    void Coller(const BDDGeoClipboard& collage, const PointVek& p, int calque);
+
+    /// Adds what is to be pasted as a group at p, without undo: that is meant.
+    void CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
+                        const Glib::ustring& identificateur);
 
     /// Gives the style to all visible elements in the rectangle, without undo and without marking
     /// the drawing as modified: that is meant.
@@ -78,6 +100,9 @@ class BDDGeo : public BDDGeoBase {
     /// holds one lets go of it.
     sigc::signal<void, EltGeo*>& SignalRetrait() { return Retrait; }
 
+    BDDGeoClipboard PressePapier;  ///< What is offered to the system clipboard.
+    TransformeColle Transforme;    ///< What every paste undergoes.
+
     std::string NomFichier;  ///< In the encoding of file names.
     bool Nomme = false;      ///< `NomFichier` names a file of the present format.
 
@@ -87,6 +112,9 @@ class BDDGeo : public BDDGeoBase {
 
     /// Takes the element out of the list and out of every child list; the caller owns it then.
     std::unique_ptr<EltGeo> Retire(EltGeo* elt);
+
+    void AnnuleCoupe(int nombre);
+    void AnnuleColle(int nombre);
 
     /// Unlinks the element at p, for a change of its place in the stack.
     std::unique_ptr<EltGeo> Decroche(const PointVek& p);

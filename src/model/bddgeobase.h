@@ -32,7 +32,10 @@ class BDDGeoBase {
     /// Replaces the content by that of the text.
     void ChargeTexte(std::string_view texte);
 
-    /// Writes the drawing's text; it is not modified any more.
+    /// Writes the drawing's text.
+    void Ecrit(Ecrivain& sortie) const;
+
+    /// The same; the drawing is not modified any more.
     void Sauve(Ecrivain& sortie);
     std::string SauveTexte();
 

@@ -61,6 +61,7 @@ void BDDGeoBase::LitTexte(std::string_view texte) {
 }
 
 void BDDGeoBase::Charge(Lecteur& entree) {
+    if (!entree.PeutLire()) return;
     const std::string_view version = entree.Mot();
     if (!CommencePar(version, "VERSION3.2") && !CommencePar(version, "VERSION3.3")) {
         entree.RefuseVersion(version);
@@ -109,13 +110,17 @@ void BDDGeoBase::RelieFils(const LiensFils& liens) {
         rangs[static_cast<std::size_t>(parent)]->AjouteFils(rangs[static_cast<std::size_t>(fils)]);
 }
 
-void BDDGeoBase::Sauve(Ecrivain& sortie) {
+void BDDGeoBase::Ecrit(Ecrivain& sortie) const {
     sortie << "VERSION3.3\n" << Elements.Nombre() + 1 << '\n';
     for (const EltGeo* elt : Elements)
         elt->Sauve(sortie);
     sortie << MarqueFils << '\n';
     SauveFils(sortie);
     sortie << -1 << '\n';
+}
+
+void BDDGeoBase::Sauve(Ecrivain& sortie) {
+    Ecrit(sortie);
     Modifie = false;
 }
 

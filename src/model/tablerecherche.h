@@ -14,7 +14,9 @@ class TableRecherche {
 
     /// Follows an insertion at the head of the list, at no cost that grows with the list.
     void AjouteDebut(EltGeo* elt) {
-        if (AJour) Lignes.push_back({elt->MinorantDistance(), elt});
+        if (!AJour) return;
+        Lignes.push_back({elt->MinorantDistance(), elt});
+        if (elt->Type == TypeBDD) Groupes.push_back(elt);
     }
 
     /// The admitted element of the smallest mesure(element), the one nearest to the head among
@@ -45,6 +47,15 @@ class TableRecherche {
             if (ligne->Borne.PeutToucher(boite)) action(*ligne->Elt);
     }
 
+    /// The first group, from the head, for which choisi answers true; null when there is none.
+    template <class Choisi>
+    EltGeo* PremierGroupe(const Liste<EltGeo>& elements, const Choisi& choisi) {
+        if (!AJour) Refait(elements);
+        for (auto groupe = Groupes.rbegin(); groupe != Groupes.rend(); ++groupe)
+            if (choisi(**groupe)) return *groupe;
+        return nullptr;
+    }
+
   private:
     struct Ligne {
         Minorant Borne;
@@ -53,6 +64,8 @@ class TableRecherche {
 
     void Refait(const Liste<EltGeo>& elements);
 
-    std::vector<Ligne> Lignes;  ///< From tail to head, so that new elements come last.
+    // From tail to head, so that new elements come last.
+    std::vector<Ligne> Lignes;
+    std::vector<EltGeo*> Groupes;
     bool AJour = false;
 };

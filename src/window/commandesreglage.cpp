@@ -1,10 +1,13 @@
 // The layers, and the settings that a dialog asks for.
 
+#include <cmath>
+
 #include "dialogs/demandecouleur.h"
 #include "dialogs/elttxtdialog.h"
 #include "dialogs/intdialog.h"
 #include "dialogs/reeldialog.h"
 #include "dialogs/traitdialog.h"
+#include "elements/angles.h"
 #include "model/bddgeo.h"
 #include "window/dessinwindow.h"
 
@@ -33,6 +36,30 @@ void DessinWindow::GrillePas() {
 void DessinWindow::GrilleCouleur() {
     Gdk::Color couleur = Zone.GrilleDuMoment().Style.Couleur;
     if (DemandeCouleur(this, "Couleur de la Grille", couleur)) Zone.SetCouleurGrille(couleur);
+}
+
+void DessinWindow::CollerRotation() {
+    TransformeColle& t = BddCourante.Transforme;
+    // The angle comes back through single precision: that is meant.
+    double degres = static_cast<float>(t.Angle) * 180.0f / 3.1415927f;
+    const double avant = degres;
+    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &degres);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
+    if (degres != avant) {
+        t.Angle = EnRadians(degres);
+        t.Cos = std::cos(t.Angle);
+        t.Sin = std::sin(t.Angle);
+    }
+    Zone.CollerAction();
+}
+
+void DessinWindow::CollerK() {
+    double facteur = BddCourante.Transforme.Agrandissement;
+    // The title is that of the rotation: that is meant.
+    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
+    if (facteur > 0.001 && facteur < 1000.0) BddCourante.Transforme.Agrandissement = facteur;
+    Zone.CollerAction();
 }
 
 void DessinWindow::PrefTxt() {

@@ -86,12 +86,13 @@ void DessinWindow::AjusteMarges(int largeur) {
     for (const Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
         const Gtk::Widget* libelle = enfant.get_widget();
         if (libelle != &LabelAction) libre -= libelle->size_request().width;
-        voulues += 2 * MargeVoulue(libelle);
+        libre -= 2 * MargeMin;
+        voulues += 2 * (MargeVoulue(libelle) - MargeMin);
     }
     const double part = std::clamp(static_cast<double>(libre) / voulues, 0.0, 1.0);
     for (Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
-        const int marge =
-            std::max(MargeMin, static_cast<int>(part * MargeVoulue(enfant.get_widget())));
+        const int voulue = MargeVoulue(enfant.get_widget());
+        const int marge = MargeMin + static_cast<int>(part * (voulue - MargeMin));
         enfant.set_options(enfant.get_expand(), enfant.get_fill(), static_cast<unsigned>(marge));
     }
 }

@@ -45,6 +45,8 @@ class DessinWindow : public Gtk::Window {
     void GrilleCouleur();
     void Couleur();
     void Trait();
+    void CollerRotation();
+    void CollerK();
     void PrefTxt();
     void CouleurFond();
     void BoiteAOutil();

@@ -1,9 +1,11 @@
 // Keys and the popup menu of the right button.
 
 #include <gdk/gdkkeysyms.h>
+#include <gtkmm/stock.h>
 
 #include "model/bddgeo.h"
 #include "model/echelle.h"
+#include "zone/tableetats.h"
 #include "zone/zonedessin.h"
 
 bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
@@ -53,6 +55,8 @@ void ZoneDessin::ConstruitPopup() {
     ActionsPopup = Gtk::ActionGroup::create();
     ActionsPopup->add(Gtk::Action::create("Sup", "Sup", "Supprimer"), touche,
                       sigc::mem_fun(*this, &ZoneDessin::SupPopup));
+    ActionsPopup->add(Gtk::Action::create("Prop", Gtk::Stock::PROPERTIES), touche,
+                      sigc::mem_fun(*this, &ZoneDessin::PropPopup));
     ActionsPopup->add(Gtk::Action::create("Avant", "Avant", "Avant"), touche,
                       sigc::mem_fun(*this, &ZoneDessin::AvantPopup));
     ActionsPopup->add(Gtk::Action::create("Arriere", "Arriere", "Arrière"), touche,
@@ -63,6 +67,7 @@ void ZoneDessin::ConstruitPopup() {
         "<ui>"
         "  <popup name='PopupMenu'>"
         "    <menuitem action='Sup'/>"
+        "    <menuitem action='Prop'/>"
         "    <menuitem action='Avant'/>"
         "    <menuitem action='Arriere'/>"
         "  </popup>"
@@ -73,6 +78,14 @@ void ZoneDessin::ConstruitPopup() {
 void ZoneDessin::SupPopup() {
     BddCourante.Efface(PointSouris);
     DessinChange();
+}
+
+void ZoneDessin::PropPopup() {
+    BddCourante.ProprieteProche(PointSouris);
+    // A drag would go on with the element as it was.
+    if (EltDeforme) MetEtat(LigneDe(Etat).Premier);
+    // The layer typed may be a hidden one.
+    SetCalqueAffiche(BddCourante.CalqueAffiche());
 }
 
 void ZoneDessin::AvantPopup() {

@@ -35,10 +35,13 @@ void ZoneDessin::AfficheEtat() {
 
 void ZoneDessin::Clique(const PointVek& p) {
     const LigneEtat& ligne = LigneDe(Etat);
-    if (ligne.Clic && ligne.Clic(*this, p))
-        MetEtat(ligne.Suivant);
-    else
+    if (!ligne.Clic || !ligne.Clic(*this, p)) {
         AfficheEtat();
+        return;
+    }
+    MetEtat(ligne.Suivant);
+    // What an open ring has placed so far is only in its preview.
+    if (LigneDe(Etat).Fin) MontreApercu();
 }
 
 void ZoneDessin::FinProfil() {

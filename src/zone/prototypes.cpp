@@ -3,7 +3,8 @@
 template <class Action>
 void Prototypes::Chacun(const Action& action) {
     const std::initializer_list<EltGeo*> prototypes = {
-        &Point, &Droite, &Segment, &Arc, &Disque, &Txt, &Rectangle,
+        &Point,    &Droite,   &Segment, &Arc,       &Disque,  &Txt,       &Cote,
+        &CoteVert, &CoteHori, &CoteDia, &CoteRayon, &CoteAng, &Rectangle, &Profil, &Image,
     };
     for (EltGeo* elt : prototypes)
         action(*elt);

@@ -1,12 +1,20 @@
 #pragma once
 
 #include "elements/eltarc.h"
+#include "elements/eltcote.h"
+#include "elements/eltcoteang.h"
+#include "elements/eltcotedia.h"
+#include "elements/eltcotehori.h"
+#include "elements/eltcoterayon.h"
+#include "elements/eltcotevert.h"
 #include "elements/eltdisque.h"
 #include "elements/eltdroite.h"
 #include "elements/eltpoint.h"
+#include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
 #include "elements/eltsegment.h"
 #include "elements/elttxt.h"
+#include "model/eltimage.h"
 
 /// One scratch element of each class: a tool fills it click after click, previews it, and a copy of
 /// it goes into the drawing. Each keeps the style and layer given last.
@@ -17,7 +25,15 @@ struct Prototypes {
     EltArc Arc;
     EltDisque Disque;
     EltTxt Txt;
+    EltCote Cote;
+    EltCoteVert CoteVert;
+    EltCoteHori CoteHori;
+    EltCoteDia CoteDia;
+    EltCoteRayon CoteRayon;
+    EltCoteAng CoteAng;
     EltRectangle Rectangle;
+    EltProfil Profil;
+    EltImage Image;
 
     void DiffuseTrait(const Trait& trait);
     void SetCalque(int calque);

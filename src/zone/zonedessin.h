@@ -4,6 +4,7 @@
 #include <gtkmm/drawingarea.h>
 #include <gtkmm/label.h>
 #include <gtkmm/menu.h>
+#include <gtkmm/selectiondata.h>
 #include <gtkmm/uimanager.h>
 
 #include <memory>
@@ -11,6 +12,7 @@
 #include <string>
 
 #include "elements/trait.h"
+#include "model/bddgeoclipboard.h"
 #include "model/grille.h"
 #include "zone/accrochage.h"
 #include "zone/prototypes.h"
@@ -56,6 +58,15 @@ class ZoneDessin : public Gtk::DrawingArea {
     void AnnuleAction();
     void AnnuleSelection();
     void ZoneTrait();
+    void CopieAction();
+    void CoupeAction();
+    void CollerAction();
+    void CollerBDDAction();
+    void ChangeSymetrieX();
+    void ChangeSymetrieY();
+
+    /// Puts what the selection shows on the clipboard as a picture.
+    void CopieBitmap();
     void ZoomPlusAction();
     void ZoomMoinsAction();
     void ZoomInitAction();
@@ -117,6 +128,7 @@ class ZoneDessin : public Gtk::DrawingArea {
     std::unique_ptr<EltGeo> EltDeforme;  ///< The copy that a drag deforms.
     PointVek PointDepart;                ///< Reference point of a drag, or first point of an arc.
     PointVek PointPrecedent;             ///< Second point of an arc.
+    std::shared_ptr<BDDGeoClipboard> Collage;  ///< What waits to be pasted; null before any.
     double Rayon = 10.0;                 ///< Radius asked for last.
     unsigned Touche = 0;                 ///< Key held, 0 after any release.
 
@@ -147,8 +159,15 @@ class ZoneDessin : public Gtk::DrawingArea {
     void LaisseElement(EltGeo* elt);
     void FinProfil();
 
+    void Copie(bool couper);
+    void DonneSelection(Gtk::SelectionData& donnees, guint info);
+
+    /// The answer of the clipboard, for the state that pastes it.
+    void RecoitSelection(const Gtk::SelectionData& donnees, int etat);
+
     void ConstruitPopup();
     void SupPopup();
+    void PropPopup();
     void AvantPopup();
     void ArrierePopup();
 

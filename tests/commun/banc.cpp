@@ -21,14 +21,15 @@ void LaisseTourner() {
 void RepondDialogue(int reponse, std::function<void(Gtk::Dialog&)> prepare) {
     Glib::signal_timeout().connect(
         [reponse, prepare] {
-            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-                auto* dialogue = dynamic_cast<Gtk::Dialog*>(fenetre);
-                if (!dialogue || !dialogue->get_mapped()) continue;
-                if (prepare) prepare(*dialogue);
-                dialogue->response(reponse);
-                return false;
-            }
-            return true;
+            // The newest window comes last.
+            Gtk::Dialog* dialogue = nullptr;
+            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels())
+                if (auto* autre = dynamic_cast<Gtk::Dialog*>(fenetre))
+                    if (autre->get_mapped()) dialogue = autre;
+            if (!dialogue) return true;
+            if (prepare) prepare(*dialogue);
+            dialogue->response(reponse);
+            return false;
         },
         5);
 }

@@ -8,6 +8,7 @@
 #include "elements/angles.h"
 #include "elements/eltdisque.h"
 #include "elements/eltdroite.h"
+#include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
 #include "toile.h"
 
@@ -66,6 +67,12 @@ std::vector<std::unique_ptr<EltGeo>> Echantillon() {
     elts.push_back(std::make_unique<EltArc>(Cercle(-5000, 0, 5040)));
     elts.push_back(std::make_unique<EltRectangle>(PointVek(-80.5, 60), PointVek(30, -30.5), 0));
     elts.push_back(std::make_unique<EltRectangle>(PointVek(-1e6, 1e6), PointVek(50, -50), 0));
+    EltProfil ouvert;
+    ouvert.Ferme = false;
+    for (const PointVek& p : {PointVek(-60, -20), {-60, 30}, {-1e6, 30}, {40, -60}})
+        ouvert.Ajoute(p);
+    ouvert.AjouteElement(EltArc({40, -30}, 30.5, 2, 4, 0));
+    elts.push_back(ouvert.Clone());
     elts.push_back(std::make_unique<EltDisque>(Secteur(60, 1, 4)));
     elts.push_back(std::make_unique<EltDisque>(Secteur(1e5, 2, 3)));
     return elts;

@@ -2,18 +2,35 @@
 
 #include <vector>
 
-#include "zone/ligneetat.h"
+#include "zone/outils/cotes.h"
 
 std::vector<LigneEtat> LignesCotesLineaires() {
     return {
-        LigneEtat(ETAT_COTE_1, ETAT_COTE_1, "Position origine"),
-        LigneEtat(ETAT_COTE_2, ETAT_COTE_1, "Position extrémité"),
-        LigneEtat(ETAT_COTE_3, ETAT_COTE_1, "Position du texte de la ĉote"),
-        LigneEtat(ETAT_COTE_VERT_1, ETAT_COTE_VERT_1, "Position origine"),
-        LigneEtat(ETAT_COTE_VERT_2, ETAT_COTE_VERT_1, "Position extrémité"),
-        LigneEtat(ETAT_COTE_VERT_3, ETAT_COTE_VERT_1, "Position du texte de la ĉote"),
-        LigneEtat(ETAT_COTE_HORI_1, ETAT_COTE_HORI_1, "Position origine"),
-        LigneEtat(ETAT_COTE_HORI_2, ETAT_COTE_HORI_1, "Position extrémité"),
-        LigneEtat(ETAT_COTE_HORI_3, ETAT_COTE_HORI_1, "Position du texte de la ĉote"),
+        LigneEtat(ETAT_COTE_1, ETAT_COTE_1, "Position origine")
+            .AuClic(PrendPoint1<&Prototypes::Cote>, ETAT_COTE_2),
+        LigneEtat(ETAT_COTE_2, ETAT_COTE_1, "Position extrémité")
+            .AuClic(PrendPoint2<&Prototypes::Cote>, ETAT_COTE_3)
+            .Montre(ApercuPoint2<&Prototypes::Cote>),
+        LigneEtat(ETAT_COTE_3, ETAT_COTE_1, "Position du texte de la ĉote")
+            .AuClic(PoseLigne<&Prototypes::Cote>, ETAT_COTE_1)
+            .Montre(ApercuLigne<&Prototypes::Cote>),
+
+        LigneEtat(ETAT_COTE_VERT_1, ETAT_COTE_VERT_1, "Position origine")
+            .AuClic(PrendPoint1<&Prototypes::CoteVert>, ETAT_COTE_VERT_2),
+        LigneEtat(ETAT_COTE_VERT_2, ETAT_COTE_VERT_1, "Position extrémité")
+            .AuClic(PrendPoint2<&Prototypes::CoteVert>, ETAT_COTE_VERT_3)
+            .Montre(ApercuPoint2<&Prototypes::CoteVert>),
+        LigneEtat(ETAT_COTE_VERT_3, ETAT_COTE_VERT_1, "Position du texte de la ĉote")
+            .AuClic(PoseLigne<&Prototypes::CoteVert>, ETAT_COTE_VERT_1)
+            .Montre(ApercuLigne<&Prototypes::CoteVert>),
+
+        LigneEtat(ETAT_COTE_HORI_1, ETAT_COTE_HORI_1, "Position origine")
+            .AuClic(PrendPoint1<&Prototypes::CoteHori>, ETAT_COTE_HORI_2),
+        LigneEtat(ETAT_COTE_HORI_2, ETAT_COTE_HORI_1, "Position extrémité")
+            .AuClic(PrendPoint2<&Prototypes::CoteHori>, ETAT_COTE_HORI_3)
+            .Montre(ApercuPoint2<&Prototypes::CoteHori>),
+        LigneEtat(ETAT_COTE_HORI_3, ETAT_COTE_HORI_1, "Position du texte de la ĉote")
+            .AuClic(PoseLigne<&Prototypes::CoteHori>, ETAT_COTE_HORI_1)
+            .Montre(ApercuLigne<&Prototypes::CoteHori>),
     };
 }

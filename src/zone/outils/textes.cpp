@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "dialogs/elttxtdialog.h"
+#include "dialogs/stringdialog.h"
 #include "zone/ligneetat.h"
 #include "zone/zonedessin.h"
 
@@ -37,6 +38,25 @@ bool PlaceTexte(ZoneDessin& zone, const PointVek& p) {
     return true;
 }
 
+bool DemandeImage(ZoneDessin& zone) {
+    Glib::ustring nom = zone.Protos.Image.Identificateur;
+    StringDialog dialogue("Identificateur de la BDD ?", &nom);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return false;
+    zone.Protos.Image.SetIdentificateur(nom);
+    return true;
+}
+
+Bande ApercuImage(ZoneDessin& zone, const PointVek& p) {
+    zone.Protos.Image.Place(p);
+    return BandeDe(zone.Protos.Image);
+}
+
+bool PlaceImage(ZoneDessin& zone, const PointVek& p) {
+    ApercuImage(zone, p);
+    zone.Ajoute(zone.Protos.Image);
+    return true;
+}
+
 }  // namespace
 
 std::vector<LigneEtat> LignesTextes() {
@@ -49,7 +69,10 @@ std::vector<LigneEtat> LignesTextes() {
             .AuClic(PlaceTexte, ETAT_TEXTE)
             .Montre(ApercuTexte)
             .Pointe(Gdk::TCROSS),
-        LigneEtat(ETAT_IMAGE, ETAT_IMAGE, "Position de l'image de BDD"),
+        LigneEtat(ETAT_IMAGE, ETAT_IMAGE, "Position de l'image de BDD")
+            .Demande(DemandeImage)
+            .AuClic(PlaceImage, ETAT_IMAGE)
+            .Montre(ApercuImage),
         LigneEtat(ETAT_IMAGE3D, ETAT_IMAGE3D, "Position de l'image de BDD"),
     };
 }

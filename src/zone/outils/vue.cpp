@@ -14,6 +14,13 @@ bool CentreVue(ZoneDessin& zone, const PointVek& p) {
     return true;
 }
 
+/// The frame without the fill of the present style, which would hide what is framed.
+Bande ApercuCadre(ZoneDessin& zone, const PointVek& p) {
+    const PointVek& coin = zone.Protos.Rectangle.Origine;
+    zone.Protos.Rectangle.SetExtremite(p);
+    return BandeDe(EltRectangle(coin, p, 0));
+}
+
 bool Zoome(ZoneDessin& zone, const PointVek& p) {
     EchelleCourante.ZoomRectangle(zone.Protos.Rectangle.Origine, p, zone.Largeur());
     zone.VueChangee();
@@ -30,6 +37,6 @@ std::vector<LigneEtat> LignesVue() {
             .AuClic(PrendPremierCoin, ETAT_ZOOM_2),
         LigneEtat(ETAT_ZOOM_2, ETAT_ZOOM_1, "Zoom Position bas droite")
             .AuClic(Zoome, ETAT_ZOOM_1)
-            .Montre(ApercuRectangle),
+            .Montre(ApercuCadre),
     };
 }

@@ -1,0 +1,139 @@
+// The properties of what is kept by two points.
+
+#include <vector>
+
+#include "dialogs/eltgeodialog.h"
+#include "dialogs/nombres.h"
+#include "elements/angles.h"
+#include "elements/eltdroite.h"
+#include "elements/eltrectangle.h"
+#include "elements/vue.h"
+
+namespace {
+
+/// One field of the dialog.
+struct Mesure {
+    const char* Libelle;
+    double (*Lit)(const EltSegment& segment);
+    void (*Ecrit)(EltSegment& segment, double valeur);
+};
+
+/// A coordinate of one of the two points.
+template <PointVek EltSegment::*Bout, void (EltSegment::*Place)(const PointVek&),
+          double PointVek::*Axe>
+constexpr Mesure Cote(const char* libelle) {
+    return {libelle, [](const EltSegment& segment) { return segment.*Bout.*Axe; },
+            [](EltSegment& segment, double valeur) {
+                PointVek p = segment.*Bout;
+                p.*Axe = valeur;
+                (segment.*Place)(p);
+            }};
+}
+
+template <double PointVek::*Axe>
+constexpr Mesure CoteOrigine(const char* libelle) {
+    return Cote<&EltSegment::Origine, &EltSegment::SetOrigine, Axe>(libelle);
+}
+
+template <double PointVek::*Axe>
+constexpr Mesure CoteExtremite(const char* libelle) {
+    return Cote<&EltSegment::Extremite, &EltSegment::SetExtremite, Axe>(libelle);
+}
+
+constexpr Mesure Bouts[] = {
+    CoteOrigine<&PointVek::x>("Origine X"), CoteOrigine<&PointVek::y>("Y"),
+    CoteOrigine<&PointVek::z>("Z"),         CoteExtremite<&PointVek::x>("Extrémité X"),
+    CoteExtremite<&PointVek::y>("Y"),       CoteExtremite<&PointVek::z>("Z"),
+};
+
+constexpr Mesure MesureLongueur = {
+    "Longueur", [](const EltSegment& segment) { return segment.Longueur(); },
+    [](EltSegment& segment, double longueur) { segment.SetLongueur(longueur); }};
+
+constexpr Mesure MesureAngle = {
+    "Angle",
+    [](const EltSegment& segment) {
+        return EnDegres(AngleReduit(segment.Angle(), vue::Epsilon()));
+    },
+    [](EltSegment& segment, double degres) { segment.SetAngle(EnRadians(degres)); }};
+
+class EltSegmentDialog : public EltGeoDialog {
+  public:
+    explicit EltSegmentDialog(EltSegment& segment,
+                              const Glib::ustring& titre = "Propriété du Segment",
+                              bool avecLongueur = true)
+        : EltGeoDialog(titre, segment, false), Segment(static_cast<EltSegment&>(Copie())) {
+        for (const Mesure& bout : Bouts)
+            AjouteLigneMesure(bout);
+        if (avecLongueur) AjouteLigneMesure(MesureLongueur);
+        AjouteLigneMesure(MesureAngle);
+    }
+
+  private:
+    struct LigneMesure {
+        const Mesure* Quoi;
+        ChampSaisie* Champ;  ///< The table's.
+    };
+
+    void AjouteLigneMesure(const Mesure& mesure) {
+        auto* champ = Gtk::manage(new ChampSaisie(TexteNombre(mesure.Lit(Segment))));
+        const LigneMesure ligne = {&mesure, champ};
+        Lignes.push_back(ligne);
+        AjouteChamp(mesure.Libelle, *champ);
+        champ->signal_changed().connect([this, ligne] { Suit(ligne); });
+    }
+
+    /// Brings the segment to what a field says while it is typed, and the other fields to the
+    /// segment. All keystrokes in one field act on the segment that stood before the first, so that
+    /// what a half typed number does to it is gone with the next digit.
+    void Suit(const LigneMesure& ligne) {
+        if (EnRemplissage) return;
+        if (EnCours != ligne.Quoi) {
+            EnCours = ligne.Quoi;
+            if (Segment.EstValide()) Depart->Copie(Segment);
+        }
+        Segment.Copie(*Depart);
+        if (const auto valeur = ligne.Champ->Nombre()) ligne.Quoi->Ecrit(Segment, *valeur);
+        if (!Segment.EstFini()) Segment.Copie(*Depart);
+        EnRemplissage = true;
+        for (const LigneMesure& autre : Lignes)
+            if (autre.Quoi != ligne.Quoi)
+                autre.Champ->set_text(TexteNombre(autre.Quoi->Lit(Segment)));
+        EnRemplissage = false;
+    }
+
+    EltSegment& Segment;
+    const std::unique_ptr<EltGeo> Depart = Segment.Clone();
+    const Mesure* EnCours = nullptr;  ///< The field that was typed in last.
+    bool EnRemplissage = false;
+    std::vector<LigneMesure> Lignes;
+};
+
+/// An endless line has no length.
+class EltDroiteDialog : public EltSegmentDialog {
+  public:
+    explicit EltDroiteDialog(EltDroite& droite) : EltSegmentDialog(droite, "Droite", false) {}
+};
+
+/// Whatever was typed, the corners are in their order afterwards.
+class EltRectangleDialog : public EltSegmentDialog {
+  public:
+    explicit EltRectangleDialog(EltRectangle& rectangle) : EltSegmentDialog(rectangle) {}
+
+  private:
+    void PrendChamps() override { static_cast<EltRectangle&>(Copie()).Ordonne(); }
+};
+
+}  // namespace
+
+bool EltSegment::Proprietes() {
+    return EltSegmentDialog(*this).run() == Gtk::RESPONSE_OK;
+}
+
+bool EltDroite::Proprietes() {
+    return EltDroiteDialog(*this).run() == Gtk::RESPONSE_OK;
+}
+
+bool EltRectangle::Proprietes() {
+    return EltRectangleDialog(*this).run() == Gtk::RESPONSE_OK;
+}

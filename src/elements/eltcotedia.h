@@ -1,0 +1,18 @@
+#pragma once
+
+#include "elements/eltcotecercle.h"
+
+/// A diameter. From an arc the points are the ends of a diameter; placed by two clicks they are the
+/// clicks, whose distance is the value: that is meant.
+class EltCoteDia : public EltCoteCercle {
+  public:
+    EltCoteDia() : EltCoteCercle(TypeCoteDia, "Nice") {}
+    EltCoteDia(const EltCoteDia&) = default;
+
+    std::unique_ptr<EltGeo> Clone() const override;
+    void DepuisArc(const EltArc& arc) override;
+
+  protected:
+    double PorteeLignes() const override;
+    void DessineLignes(Trace& trace) const override;
+};

@@ -1,0 +1,84 @@
+#include "model/eltbdd.h"
+
+#include "elements/ecrivain.h"
+#include "elements/encodage.h"
+#include "elements/lecteur.h"
+#include "elements/trace.h"
+#include "elements/vue.h"
+#include "model/vuedecalee.h"
+
+namespace {
+
+constexpr char NomDefaut[] = "defaut";
+
+/// Groups inside groups beyond this depth are no drawing of anyone's.
+constexpr int ProfondeurMax = 100;
+
+}  // namespace
+
+Glib::ustring EnUnMot(const Glib::ustring& nom) {
+    Glib::ustring mot;
+    for (const gunichar c : nom)
+        mot += g_unichar_isspace(c) || g_unichar_iscntrl(c) ? gunichar('_') : c;
+    return mot.empty() ? Glib::ustring(NomDefaut) : mot;
+}
+
+EltBDD::EltBDD() : EltGeo(TypeBDD), Identificateur(NomDefaut) {}
+
+EltBDD::EltBDD(const EltBDD& source) : EltGeo(source), Identificateur(source.Identificateur) {
+    CopieListe(source.Contenu);
+}
+
+std::unique_ptr<EltGeo> EltBDD::Clone() const {
+    return std::make_unique<EltBDD>(*this);
+}
+
+void EltBDD::Copie(const EltGeo& source) {
+    EltGeo::Copie(source);
+    const auto& groupe = static_cast<const EltBDD&>(source);
+    Identificateur = groupe.Identificateur;
+    CopieListe(groupe.Contenu);
+}
+
+void EltBDD::CopieListe(const BDDGeoBase& source) {
+    Contenu.Vide();
+    for (const EltGeo* elt : source.Elements)
+        Contenu.AjouteDebut(elt->Clone());
+}
+
+void EltBDD::Dessine(Trace& trace) const {
+    EltGeo::Dessine(trace);
+    const PointVek coin = vue::VersEcran(Position);
+    TexteEcran nom{Identificateur, "Courrier", 10.0, 0.0, TexteEcran::CoinHaut, coin};
+    trace.Texte(nom, Style.Couleur);
+    const VueDecalee decalee(Position);
+    DessineContenu(trace);
+}
+
+void EltBDD::DessineContenu(Trace& trace) const {
+    Contenu.Dessine(trace);
+}
+
+void EltBDD::Sauve(Ecrivain& sortie) const {
+    EltGeo::Sauve(sortie);
+    sortie << Identificateur.raw() << '\n';
+    Contenu.Ecrit(sortie);
+    sortie << "FinEltBDD\n";
+}
+
+void EltBDD::Charge(Lecteur& entree) {
+    EltGeo::Charge(entree);
+    const std::string_view nom = entree.Mot();
+    if (!entree.Echec()) Identificateur = EnUtf8(nom);
+    const Lecteur::Niveau niveau(entree, ProfondeurMax);
+    Contenu.Charge(entree);
+    entree.Mot();
+}
+
+void EltBDD::SetIdentificateur(const Glib::ustring& identificateur) {
+    Identificateur = EnUnMot(identificateur);
+}
+
+bool EltBDD::EstIdentifie(const Glib::ustring& identificateur) const {
+    return Identificateur.raw() == identificateur.raw();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/bddgeobase.h"
+
+/// A named group: its content is relative to its `Position`, so that moving the group moves that
+/// alone. Images find it by its name, which is one word.
+class EltBDD : public EltGeo {
+  public:
+    EltBDD();
+
+    /// The content comes out in reverse order: that is meant, and a second copy restores it.
+    EltBDD(const EltBDD& source);
+
+    std::unique_ptr<EltGeo> Clone() const override;
+    void Copie(const EltGeo& source) override;
+    void Dessine(Trace& trace) const override;
+    void Sauve(Ecrivain& sortie) const override;
+    void Charge(Lecteur& entree) override;
+
+    /// Paints the content alone, at the origin of the view.
+    void DessineContenu(Trace& trace) const;
+
+    /// Replaces the content by clones of the source's elements, in reverse order.
+    void CopieListe(const BDDGeoBase& source);
+
+    /// Blanks become underscores, since a name is one word in a file.
+    void SetIdentificateur(const Glib::ustring& identificateur);
+    bool EstIdentifie(const Glib::ustring& identificateur) const;
+
+    Glib::ustring Identificateur;
+
+  private:
+    BDDGeoBase Contenu;
+};
+
+/// A name as groups and images keep it: one word.
+Glib::ustring EnUnMot(const Glib::ustring& nom);

@@ -1,0 +1,322 @@
+// The dialogs on the properties of elements, opened from the popup menu.
+
+#include <gtest/gtest.h>
+#include <gtkmm/button.h>
+#include <gtkmm/colorselection.h>
+#include <gtkmm/entry.h>
+#include <gtkmm/fontbutton.h>
+#include <gtkmm/table.h>
+
+#include <algorithm>
+
+#include "bureau.h"
+#include "elements/angles.h"
+#include "elements/eltcoteang.h"
+#include "elements/eltdisque.h"
+#include "elements/eltdroite.h"
+#include "elements/eltpoint.h"
+#include "elements/eltrectangle.h"
+#include "elements/elttxt.h"
+#include "model/bddgeo.h"
+#include "zone/etats.h"
+
+namespace {
+
+template <class Type>
+void Recolte(Gtk::Widget& racine, std::vector<Type*>& trouves) {
+    if (auto* trouve = dynamic_cast<Type*>(&racine)) trouves.push_back(trouve);
+    if (auto* boite = dynamic_cast<Gtk::Container*>(&racine))
+        for (Gtk::Widget* enfant : boite->get_children())
+            Recolte(*enfant, trouves);
+}
+
+/// The fields in the order of the screen, the layer last.
+std::vector<Gtk::Entry*> Champs(Gtk::Dialog& dialogue) {
+    std::vector<Gtk::Entry*> champs, calque;
+    Recolte(*PremierDe<Gtk::Table>(dialogue), champs);
+    // A table gives its children from the last to the first.
+    std::reverse(champs.begin(), champs.end());
+    for (Gtk::Widget* ligne : dialogue.get_vbox()->get_children())
+        if (!dynamic_cast<Gtk::Table*>(ligne)) Recolte(*ligne, calque);
+    champs.insert(champs.end(), calque.begin(), calque.end());
+    return champs;
+}
+
+/// The title, then each label with what its field shows.
+std::string Contenu(Gtk::Dialog& dialogue) {
+    std::vector<Gtk::Label*> libelles;
+    Recolte(*PremierDe<Gtk::Table>(dialogue), libelles);
+    std::string contenu = dialogue.get_title();
+    const auto champs = Champs(dialogue);
+    std::size_t rang = 0;
+    for (auto l = libelles.rbegin(); l != libelles.rend() && rang < champs.size(); ++l)
+        // The label within a button names no field.
+        if (dynamic_cast<Gtk::Table*>((*l)->get_parent()) && (*l)->get_text() != "Police")
+            contenu += "|" + (*l)->get_text() + "=" + champs[rang++]->get_text();
+    return contenu + "|" + champs.back()->get_text();
+}
+
+using Saisies = std::vector<std::pair<std::size_t, std::string>>;
+
+/// Answers the properties of elt after typing into the fields of those ranks; what they showed.
+std::string Repond(EltGeo& elt, const Saisies& saisies, int reponse = Gtk::RESPONSE_OK) {
+    std::string contenu;
+    RepondDialogue(reponse, [&](Gtk::Dialog& dialogue) {
+        contenu = Contenu(dialogue);
+        const auto champs = Champs(dialogue);
+        EXPECT_EQ(dialogue.get_focus(), champs.front());
+        int debut = 0, fin = 0;
+        EXPECT_TRUE(champs.front()->get_selection_bounds(debut, fin));
+        for (const auto& [rang, texte] : saisies)
+            champs.at(rang)->set_text(texte);
+    });
+    EXPECT_EQ(elt.Proprietes(), reponse == Gtk::RESPONSE_OK);
+    return contenu;
+}
+
+/// Answers the dialog behind a button of the properties.
+void RepondBouton(Gtk::Dialog& dialogue, const Glib::ustring& libelle,
+                  std::function<void(Gtk::Dialog&)> prepare) {
+    std::vector<Gtk::Button*> boutons;
+    Recolte(dialogue, boutons);
+    for (Gtk::Button* bouton : boutons) {
+        if (bouton->get_label() != libelle) continue;
+        RepondDialogue(Gtk::RESPONSE_OK, std::move(prepare));
+        return bouton->clicked();
+    }
+    FAIL() << "no button " << libelle;
+}
+
+/// Chooses the properties in the menu of a right click.
+void ChoisitProp(Banc& banc, double x, double y) {
+    banc.Souris.Presse(x, y, 3);
+    LaisseTourner();
+    std::string noms;
+    Gtk::MenuItem* prop = nullptr;
+    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+        std::vector<Gtk::MenuItem*> entrees;
+        if (fenetre->get_visible()) Recolte(*fenetre, entrees);
+        for (Gtk::MenuItem* entree : entrees) {
+            noms += NomAction(*entree) + " ";
+            if (NomAction(*entree) == "Prop") prop = entree;
+        }
+    }
+    EXPECT_EQ(noms, "Sup Prop Avant Arriere ");
+    ASSERT_TRUE(prop);
+    PremierDe<Gtk::Menu>(*prop->get_toplevel())->popdown();
+    prop->activate();
+    LaisseTourner();
+}
+
+}  // namespace
+
+TEST(Proprietes, ParLeMenuDuClicDroit) {
+    Banc banc;
+    EltGeo* arc = BddCourante.Ajoute(EltArc({0, 0}, 50, 0, DeuxPi, 0));
+    const Capture avant = banc.Image();
+    BddCourante.Modifie = false;
+    RepondDialogue(Gtk::RESPONSE_CANCEL);
+    ChoisitProp(banc, 350, 200);
+    EXPECT_TRUE(BddCourante.Modifie) << "whatever the answer";
+    RepondDialogue(Gtk::RESPONSE_OK, [&](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(dialogue.get_transient_for(), &banc.Fenetre);
+        Champs(dialogue).at(3)->set_text("80,5");
+    });
+    ChoisitProp(banc, 350, 200);
+    EXPECT_EQ(static_cast<EltArc*>(arc)->Rayon, 80.5);
+    EXPECT_EQ(BddCourante.Cherche({80, 0}), arc);
+    EXPECT_EQ(BddCourante.Cherche({50, 0}), nullptr);
+    EXPECT_GT(banc.Image().Ecart(avant), 300);
+
+    // A drag does not bring the former element back, and what a layer hides is let go.
+    banc.Zone.Entre(ETAT_MODIFIE);
+    banc.Souris.ClicA({80.5, 0});
+    banc.Souris.ClicA({80.5, 0});
+    ASSERT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE_POSITION);
+    RepondDialogue(Gtk::RESPONSE_OK,
+                   [](Gtk::Dialog& dialogue) { Champs(dialogue).at(3)->set_text("60"); });
+    ChoisitProp(banc, 380, 200);
+    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE);
+    banc.Zone.SetCalqueAffiche(0);
+    banc.Souris.ClicA({60, 0});
+    ASSERT_EQ(banc.Zone.EltCourant, arc);
+    RepondDialogue(Gtk::RESPONSE_OK,
+                   [](Gtk::Dialog& dialogue) { Champs(dialogue).back()->set_text("3"); });
+    ChoisitProp(banc, 360, 200);
+    EXPECT_EQ(banc.Zone.EltCourant, nullptr);
+    BddCourante.Annule();
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 0) << "the addition is the only step to undo";
+}
+
+TEST(Proprietes, ChaqueChampEtLuiSeul) {
+    const double tiers = 1.0 / 3.0;
+    EltPoint point;
+    point.Position = {tiers, -2.5, 7};
+    EXPECT_EQ(Repond(point, {{1, "4"}, {3, "2.6"}}),
+              "Coordonnées du centre du POINT|X=0.333|Y=-2.5|Z=7|0");
+    EXPECT_EQ(point.Position.x, tiers);
+    EXPECT_EQ(point.Position.y, 4.0);
+    EXPECT_EQ(point.Calque, 3);
+    Repond(point, {{0, "9"}, {3, "9"}}, Gtk::RESPONSE_CANCEL);
+    EXPECT_EQ(point.Position.x, tiers);
+    EXPECT_EQ(point.Calque, 3);
+
+    EltDisque disque;
+    disque.Rayon = 10 * tiers;
+    disque.AngleDebut = tiers;
+    EXPECT_EQ(Repond(disque, {{5, "-30"}}),
+              "Propriété du cercle|X=0|Y=0|Z=0|Rayon=3.333|Angle Début=19.099|"
+              " Angle ouverture=360|0");
+    EXPECT_EQ(disque.Rayon, 10 * tiers);
+    EXPECT_EQ(disque.AngleDebut, tiers);
+    EXPECT_NEAR(disque.Ouverture, -Pi / 6, 1e-12);
+    Repond(disque, {{0, "1"}, {2, "3"}, {4, "90"}, {5, "1e6"}});
+    EXPECT_EQ(Distance3D(disque.Position, {1, 0, 3}), 0.0);
+    EXPECT_NEAR(disque.AngleDebut, Pi / 2, 1e-12);
+    EXPECT_EQ(disque.Ouverture, DeuxPi);
+
+    EltTxt txt;
+    txt.Texte = "é ø";
+    txt.Angle = tiers;
+    EXPECT_EQ(Repond(txt, {{3, "à\nb"}, {5, "12.5"}}),
+              "Propriété du texte|X=0|Y=0|Z=0|Texte=é ø|Angle=20|Taille=10|0");
+    EXPECT_EQ(txt.Texte, "à b");
+    EXPECT_EQ(txt.Angle, tiers);
+    EXPECT_EQ(txt.Taille, 12.5);
+    RepondDialogue(Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        PremierDe<Gtk::FontButton>(dialogue)->set_font_name("Serif Italic 10");
+        Champs(dialogue).at(4)->set_text("90");
+    });
+    txt.Proprietes();
+    EXPECT_EQ(txt.Police, "Serif Italic");
+    EXPECT_NEAR(txt.Angle, Pi / 2, 1e-12);
+}
+
+TEST(Proprietes, UneCoteAutomatique) {
+    Banc banc;
+    EltCote cote;
+    cote.SetPoint1({-100, 0});
+    cote.SetPoint2({100, 0});
+    cote.PlaceLigne({0, 50});
+    EltGeo* elt = BddCourante.Ajoute(cote);
+    const Capture avant = banc.Image();
+    EXPECT_EQ(Repond(*elt, {{3, "*"}, {4, "20"}}),
+              "Propriété de la cote|X=0|Y=50|Z=0|Texte=200|Taille=10|0");
+    EXPECT_EQ(static_cast<EltCote*>(elt)->Texte, "*");
+    EXPECT_EQ(elt->Position.y, 50.0);
+    banc.Zone.DessinChange();
+    EXPECT_GT(banc.Image().Ecart(avant), 50) << "the same value in larger figures";
+
+    EltCoteAng angle;
+    EXPECT_EQ(Repond(angle, {}), "Propriété de la cote|Texte=Cote|Taille=10|0");
+}
+
+TEST(Proprietes, LesChampsDUnSegmentSeSuivent) {
+    EltSegment segment({-10, 0}, {10, 0}, 0);
+    const auto texte = [](Gtk::Dialog& dialogue, int rang) {
+        return Champs(dialogue).at(static_cast<std::size_t>(rang))->get_text().raw();
+    };
+    RepondDialogue(Gtk::RESPONSE_OK, [&](Gtk::Dialog& dialogue) {
+        const auto champs = Champs(dialogue);
+        // Emptied, then digit by digit, as a hand does.
+        for (const char* frappe : {"", "6", "60"})
+            champs[6]->set_text(frappe);
+        EXPECT_EQ(texte(dialogue, 0), "-30");
+        EXPECT_EQ(texte(dialogue, 7), "0");
+        for (const char* frappe : {"", "-", "-9", "-90"})
+            champs[7]->set_text(frappe);
+        EXPECT_EQ(texte(dialogue, 1), "30");
+        EXPECT_EQ(texte(dialogue, 6), "60");
+        champs[3]->set_text("80");
+        EXPECT_EQ(texte(dialogue, 6), "100");
+        champs[6]->set_text("1e400");
+        EXPECT_EQ(texte(dialogue, 0), "0");
+        EXPECT_EQ(segment.Extremite.x, 10.0) << "not before it is validated";
+    });
+    EXPECT_TRUE(segment.Proprietes());
+    EXPECT_NEAR(Distance(segment.Origine, {0, 30}), 0.0, 1e-9);
+    EXPECT_NEAR(Distance(segment.Extremite, {80, -30}), 0.0, 1e-9);
+
+    EltSegment fin({1.0 / 3.0, 0, 0}, {10, 1.0 / 7.0, 2}, 0);
+    EXPECT_EQ(Repond(fin, {{2, "5"}}),
+              "Propriété du Segment|Origine X=0.333|Y=0|Z=0|Extrémité X=10|Y=0.143|Z=2|"
+              "Longueur=9.668|Angle=0.847|0");
+    EXPECT_EQ(fin.Origine.x, 1.0 / 3.0);
+    EXPECT_EQ(fin.Origine.z, 5.0);
+    EXPECT_EQ(fin.Extremite.y, 1.0 / 7.0);
+
+    EltDroite droite({0, 0}, {10, 10}, 0);
+    EXPECT_EQ(Repond(droite, {{0, "5"}}),
+              "Droite|Origine X=0|Y=0|Z=0|Extrémité X=10|Y=10|Z=0|Angle=45|0");
+    EXPECT_EQ(droite.Extremite.x, 15.0) << "the whole line moves";
+
+    EltRectangle rectangle({0, 10}, {20, 0}, 0);
+    Repond(rectangle, {{4, "30"}});
+    EXPECT_EQ(rectangle.Origine.y, 30.0);
+    EXPECT_EQ(rectangle.Extremite.y, 10.0);
+}
+
+TEST(Proprietes, LeTraitSuitLaRegleDeLaClasse) {
+    EltSegment segment({0, 0}, {10, 0}, 0);
+    EltRectangle rectangle({0, 10}, {20, 0}, 0);
+    for (EltGeo* elt : {static_cast<EltGeo*>(&segment), static_cast<EltGeo*>(&rectangle)})
+        for (const int reponse : {Gtk::RESPONSE_CANCEL, Gtk::RESPONSE_OK}) {
+            RepondDialogue(reponse, [](Gtk::Dialog& dialogue) {
+                RepondBouton(dialogue, "Trait", [&dialogue](Gtk::Dialog& trait) {
+                    EXPECT_EQ(trait.get_transient_for(), &dialogue);
+                    std::vector<Gtk::CheckButton*> coches;
+                    Recolte(trait, coches);
+                    for (Gtk::CheckButton* coche : coches)
+                        if (coche->get_label() == "Remplissage") coche->set_active();
+                    Champs(trait).front()->set_text("5");
+                });
+                RepondBouton(dialogue, "Couleur", [](Gtk::Dialog& palette) {
+                    dynamic_cast<Gtk::ColorSelectionDialog&>(palette)
+                        .get_color_selection()
+                        ->set_current_color(Gdk::Color("#ff0000"));
+                });
+            });
+            elt->Proprietes();
+            const bool pris = reponse == Gtk::RESPONSE_OK;
+            EXPECT_EQ(elt->Style.Epaisseur, pris ? 5 : 1);
+            EXPECT_EQ(elt->Style.Couleur, Gdk::Color(pris ? "#ff0000" : "#000000"));
+            EXPECT_EQ(elt->Style.Remplissage, pris && elt == &rectangle);
+        }
+    // A style that a file gave stays when nobody touched it.
+    segment.Style.Remplissage = true;
+    Repond(segment, {});
+    EXPECT_TRUE(segment.Style.Remplissage);
+}
+
+TEST(Proprietes, RienDImpossibleNEntre) {
+    Banc banc;
+    BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
+    BddCourante.Ajoute(EltDroite({-10, 0}, {10, 5}, 0));
+    BddCourante.Ajoute(EltArc({0, 0}, 20, 0, 2, 0));
+    BddCourante.Ajoute(EltTxt());
+    BddCourante.Ajoute(EltPoint());
+    BddCourante.Ajoute(EltRectangle({-10, 10}, {10, 0}, 0));
+    for (EltGeo* elt : BddCourante.Elements)
+        for (const char* saisie : {"", "0", "-nan", "1e400", "-1e308", "1e-320"})
+            for (std::size_t rang = 0; rang < 9; ++rang) {
+                RepondDialogue(Gtk::RESPONSE_OK, [&](Gtk::Dialog& dialogue) {
+                    const auto champs = Champs(dialogue);
+                    champs[rang % champs.size()]->set_text(saisie);
+                    champs[(rang * 5 + 2) % champs.size()]->set_text(saisie);
+                });
+                elt->Proprietes();
+                EXPECT_TRUE(elt->EstValide() && elt->Position.EstFini())
+                    << saisie << " in " << rang;
+                banc.Zone.DessinChange();
+                LaisseTourner();
+            }
+
+    // The drawing goes while the question stands, and with it the element.
+    RepondDialogue(Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        Champs(dialogue).front()->set_text("7");
+        BddCourante.Vide();
+    });
+    BddCourante.Ajoute(EltRectangle({100, 110}, {120, 100}, 0));
+    ASSERT_TRUE(BddCourante.ProprieteProche({100, 105}));
+    EXPECT_FALSE(BddCourante.Modifie);
+}

@@ -1,0 +1,215 @@
+// Copy, cut and paste through the system clipboard, groups and their images.
+
+#include <gtest/gtest.h>
+#include <gtkmm/clipboard.h>
+
+#include "commun/banc.h"
+#include "elements/angles.h"
+#include "elements/eltarc.h"
+#include "elements/eltsegment.h"
+#include "elements/elttxt.h"
+#include "model/bddgeo.h"
+#include "model/echelle.h"
+#include "model/eltbdd.h"
+#include "model/eltimage.h"
+#include "zone/etats.h"
+
+namespace {
+
+void AjouteSegment(const PointVek& a, const PointVek& b) {
+    BddCourante.Ajoute(EltSegment(a, b, 0));
+}
+
+void Selectionne(Banc& banc, const PointVek& a, const PointVek& b) {
+    banc.Zone.Entre(ETAT_SELECTION_1);
+    banc.Souris.ClicA(a);
+    banc.Souris.ClicA(b);
+}
+
+void ExigeSegment(const EltGeo& elt, const PointVek& a, const PointVek& b) {
+    const auto& segment = static_cast<const EltSegment&>(elt);
+    EXPECT_LT(Distance(segment.Origine, a), 1e-9);
+    EXPECT_LT(Distance(segment.Extremite, b), 1e-9);
+}
+
+void Colle(Banc& banc) {
+    banc.Zone.CollerAction();
+    for (int tour = 0; tour < 20 && banc.Zone.EtatCourant() != ETAT_COLLER; ++tour)
+        LaisseTourner();
+}
+
+/// Gives the paste options back at the end of a test.
+struct OptionsNeuves {
+    ~OptionsNeuves() { BddCourante.Transforme = TransformeColle(); }
+};
+
+}  // namespace
+
+TEST(Collage, CopierDeuxFoisPuisColler) {
+    Banc banc;
+    AjouteSegment({-200, 100}, {-180, 100});
+    AjouteSegment({-100, 50}, {-80, 70});
+    Selectionne(banc, {-210, 110}, {-170, 90});
+    banc.Zone.CopieAction();
+    Selectionne(banc, {-110, 90}, {-70, 40});
+    banc.Zone.CopieAction();
+    banc.Zone.AnnuleSelection();
+    banc.Zone.SetCalque(3);
+    Colle(banc);
+    ASSERT_EQ(banc.Zone.EtatCourant(), ETAT_COLLER);
+    banc.Souris.BougeA({50, 0});
+    const Capture bande = banc.Image();
+    banc.Souris.ClicA({50, 0});
+    EXPECT_EQ(banc.Image().Ecart(bande), 0);
+    banc.Souris.ClicA({60, 0});
+    ASSERT_EQ(BddCourante.Elements.Nombre(), 4);
+    // The corner of the selection comes to the click.
+    ExigeSegment(*BddCourante.Elements.Premier(), {70, -40}, {90, -20});
+    EXPECT_EQ(BddCourante.Elements.Premier()->Calque, 3);
+    BddCourante.Annule();
+    ASSERT_EQ(BddCourante.Elements.Nombre(), 3);
+    ExigeSegment(*BddCourante.Elements.Premier(), {60, -40}, {80, -20});
+}
+
+TEST(Collage, MiroirRotationEtFacteur) {
+    const OptionsNeuves neuves;
+    Banc banc;
+    AjouteSegment({10, 20}, {30, 20});
+    Selectionne(banc, {0, 40}, {50, 0});
+    banc.Zone.CopieAction();
+    TransformeColle& t = BddCourante.Transforme;
+    t.Cos = 0.0;
+    t.Sin = 1.0;
+    t.Agrandissement = 2.0;
+    banc.Zone.ChangeSymetrieX();
+    for (int tour = 0; tour < 20 && banc.Zone.EtatCourant() != ETAT_COLLER; ++tour)
+        LaisseTourner();
+    banc.Souris.ClicA({100, 100});
+    // Relative to the corner: (10, -20) to (30, -20); turned a quarter: (20, 10) to (20, 30);
+    // mirrored: (20, -10) to (20, -30); doubled.
+    ExigeSegment(*BddCourante.Elements.Premier(), {140, 80}, {140, 40});
+}
+
+TEST(Collage, CouperEtAnnuler) {
+    Banc banc;
+    for (int i = 0; i < 5; ++i)
+        AjouteSegment({i * 10.0, 0}, {i * 10.0 + 5.0, 5});
+    AjouteSegment({-200, 0}, {-150, 0});
+    EltBDD groupe;
+    groupe.Place({20, 2});
+    BddCourante.AjouteFin(groupe.Clone());
+    BddCourante.Modifie = false;
+    Selectionne(banc, {-20, 50}, {90, -50});
+    banc.Zone.CoupeAction();
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 2) << "the group and what lies outside stay";
+    EXPECT_FALSE(BddCourante.Modifie);
+    EXPECT_TRUE(BddCourante.Annule());
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 7);
+}
+
+TEST(Collage, DonneesVidesOuEtrangeres) {
+    Banc banc;
+    AjouteSegment({-200, 100}, {-180, 100});
+    banc.Zone.Entre(ETAT_SEGMENT_1);
+    Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)->set_text("VERSION3.3");
+    Colle(banc);
+    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_1);
+    banc.Zone.RectangleSelection.SetPoints({500, 500}, {501, 499});
+    banc.Zone.CopieAction();
+    Colle(banc);
+    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_1) << "an empty selection gives nothing";
+}
+
+TEST(Collage, ImageDeLaSelection) {
+    Banc banc;
+    AjouteSegment({-20, 0}, {20, 0});
+    Selectionne(banc, {-50, 30}, {60, -40});
+    banc.Zone.AnnuleSelection();
+    banc.Zone.CopieBitmap();
+    const auto image = Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)->wait_for_image();
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->get_width(), 110);
+    EXPECT_EQ(image->get_height(), 70);
+    EXPECT_EQ(image->get_pixels()[30 * image->get_rowstride() + 50 * image->get_n_channels()], 0);
+}
+
+TEST(Groupes, UneImageMontreLeGroupeTourneEtAgrandi) {
+    Banc banc;
+    BDDGeoClipboard contenu;
+    contenu.AjouteFin(std::make_unique<EltSegment>(PointVek(10, 0), PointVek(30, 0), 0));
+    BddCourante.CollerCommeBDD(contenu, {-200, 100}, "ma piece");
+    EltImage image;
+    image.SetIdentificateur("ma piece");
+    image.Place({50, -20});
+    image.Angle = Pi / 2;
+    image.Agrandissement = 2.0;
+    BddCourante.Ajoute(image);
+    banc.Zone.Redessine();
+    const Capture seule = banc.Image();
+    // The group at its place; its image from (50, 0) to (50, 40).
+    EXPECT_EQ(seule.Pixel(300 - 200 + 20, 100), 0x000000u);
+    EXPECT_EQ(seule.Pixel(350, 180), 0x000000u);
+    EXPECT_EQ(seule.Pixel(350, 161), 0x000000u);
+    EXPECT_EQ(seule.Pixel(350, 150), 0xffffffu);
+    EXPECT_EQ(EchelleCourante.Rotation, 0.0);
+    EXPECT_EQ(EchelleCourante.Agrandissement, 1.0);
+
+    // Without the groups their images stay.
+    banc.Zone.ChangeAfficheBDD();
+    const Capture sans = banc.Image();
+    EXPECT_EQ(sans.Pixel(120, 100), 0xffffffu);
+    EXPECT_EQ(sans.Pixel(350, 180), 0x000000u);
+    banc.Zone.ChangeAfficheBDD();
+
+    // Saved and read back the same.
+    const std::string texte = BddCourante.SauveTexte();
+    EXPECT_NE(texte.find("\nma_piece\nVERSION3.3\n2\n1 1 0\n"), std::string::npos);
+    BddCourante.ChargeTexte(texte);
+    EXPECT_EQ(BddCourante.SauveTexte(), texte);
+    EXPECT_EQ(banc.Image().Ecart(seule), 0);
+}
+
+TEST(Groupes, QuiSeContiennentOuSEmboitentSansFin) {
+    Banc banc;
+    BDDGeoClipboard contenu;
+    for (int i = 0; i < 3; ++i) {
+        auto image = std::make_unique<EltImage>();
+        image->SetIdentificateur("soi");
+        image->Place({i * 10.0, 5.0});
+        image->Agrandissement = 0.9;
+        contenu.AjouteFin(std::move(image));
+    }
+    BddCourante.CollerCommeBDD(contenu, {0, 0}, "soi");
+    EltImage image;
+    image.SetIdentificateur("soi");
+    BddCourante.Ajoute(image);
+    banc.Zone.Redessine();
+    banc.Image();
+
+    std::string texte;
+    for (int i = 0; i < 10000; ++i)
+        texte += "VERSION3.3\n2\n15 1 0\n#000000000000\n#ffffffffffff\n 0 1 0 0 1 0  0\n0 0 0\nx\n";
+    BddCourante.ChargeTexte(texte);
+    const std::string lu = BddCourante.SauveTexte();
+    BddCourante.ChargeTexte(lu);
+    EXPECT_EQ(BddCourante.SauveTexte(), lu);
+}
+
+TEST(Groupes, UnDeplacementNeDoublePasLeContenu) {
+    Banc banc;
+    BDDGeoClipboard contenu;
+    contenu.AjouteFin(std::make_unique<EltSegment>(PointVek(10, 0), PointVek(30, 0), 0));
+    contenu.AjouteFin(std::make_unique<EltArc>(PointVek(0, 0), 5.0, 0.0, DeuxPi, 0));
+    BddCourante.CollerCommeBDD(contenu, {0, 0}, "g");
+    const std::string avant = BddCourante.SauveTexte();
+    for (int i = 0; i < 4; ++i) {
+        banc.Zone.Entre(ETAT_MODIFIE);
+        banc.Souris.ClicA({i * 20.0, 0});
+        banc.Souris.ClicA({i * 20.0, 0});
+        banc.Souris.ClicA({i * 20.0 + 20.0, 0});
+    }
+    EXPECT_EQ(BddCourante.Elements.Premier()->Position.x, 80.0);
+    for (int i = 0; i < 4; ++i)
+        BddCourante.Annule();
+    EXPECT_EQ(BddCourante.SauveTexte().size(), avant.size());
+}
