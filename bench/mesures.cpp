@@ -298,6 +298,7 @@ void AfficheMemoire(int nombre) {
 int main(int nombre, char** mots) {
     // Slices out of the allocator's sight would not be counted.
     setenv("G_SLICE", "always-malloc", 1);
+    setenv("APPDATA", "/nonexistent", 1);
     Gtk::Main toolkit(nombre, mots, true);
     std::setlocale(LC_NUMERIC, "C");
     benchmark::Initialize(&nombre, mots);

@@ -13,6 +13,10 @@
 
 int NbDecimales = 2;
 
+bool EstNombreDecimales(int nombre) {
+    return nombre >= 0 && nombre <= 15;
+}
+
 namespace {
 
 /// Length in pixels of an arrow, and how far its barbs reach from its tip.

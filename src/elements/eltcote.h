@@ -5,6 +5,9 @@
 /// Decimals that every dimension shows at most; one for the program.
 extern int NbDecimales;
 
+/// Whether that many decimals can be shown: 0 to 15.
+bool EstNombreDecimales(int nombre);
+
 /// A dimension between two points, along the line that joins them, and the base of all dimensions:
 /// a text that knows the value it measures. `Position` is the anchor of the text, on the dimension
 /// line; `Angle` follows from the points, and `Texte` is shown as it stands, or is the value of the

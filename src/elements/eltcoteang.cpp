@@ -52,7 +52,13 @@ void EltCoteAng::Transforme(const TransformeColle& t) {
 }
 
 void EltCoteAng::Sauve(Ecrivain& sortie) const {
-    EltCote::Sauve(sortie);
+    // The text and its place as they follow from the points that are written, so that a drawing
+    // that is opened and saved again gives the same file.
+    EltCoteAng ecrite(*this);
+    for (PointVek* p : {&ecrite.Sommet, &ecrite.Extremite1, &ecrite.Extremite2})
+        *p = CommeEcrit(*p);
+    ecrite.Recalcule();
+    ecrite.EltCote::Sauve(sortie);
     sortie << Sommet << ' ' << Extremite1 << ' ' << Extremite2 << '\n';
 }
 

@@ -252,8 +252,18 @@ std::vector<double> Trace::PasVisibles(const ArcEcran& arc) const {
 
 void Trace::Remplit(std::vector<PointVek> sommets) {
     std::vector<GdkPoint> pixels;
-    for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable))
-        if (p.EstFini()) pixels.push_back({Pixels(p.x), Pixels(p.y)});
+    for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable)) {
+        if (!p.EstFini()) continue;
+        const GdkPoint pixel{Pixels(p.x), Pixels(p.y)};
+        if (pixels.empty() || pixel.x != pixels.back().x || pixel.y != pixels.back().y)
+            pixels.push_back(pixel);
+    }
+    // The window system takes a time that grows with the square of their number.
+    constexpr std::size_t maximum = 10000;
+    const std::size_t pas = pixels.size() / maximum + 1;
+    for (std::size_t i = 0; i < pixels.size(); i += pas)
+        pixels[i / pas] = pixels[i];
+    pixels.resize((pixels.size() + pas - 1) / pas);
     if (pixels.size() > 2)
         gdk_draw_polygon(Support->gobj(), Contexte->gobj(), TRUE, pixels.data(),
                          static_cast<int>(pixels.size()));

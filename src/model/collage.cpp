@@ -25,20 +25,19 @@ void BDDGeo::CopieZone(const EltRectangle& zone, bool couper) {
         if (couper && elt->NbParents == 0) coupes.insert(elt);
     }
     if (!couper) return;
-    Elements.RetireSi([&](const EltGeo& elt) { return coupes.count(&elt) > 0; },
-                      [&](EltGeo* elt) {
-                          Retrait.emit(elt);
-                          // It keeps its children for the day it comes back, but holds them no more.
-                          for (EltGeo* fils : elt->Fils)
-                              --fils->NbParents;
-                          Annulations.push_back(
-                              {EnregAnnul::Retire, std::unique_ptr<EltGeo>(elt), nullptr});
-                      });
+    Elements.RetireSi(
+        [&](const EltGeo& elt) { return coupes.count(&elt) > 0; },
+        [&](EltGeo* elt) {
+            Retrait.emit(elt);
+            // It keeps its children for the day it comes back, but holds them no more.
+            for (EltGeo* fils : elt->Fils)
+                --fils->NbParents;
+            Annulations.push_back({EnregAnnul::Retire, std::unique_ptr<EltGeo>(elt), nullptr});
+        });
     DernierTrouve = nullptr;
     Table.Perime();
     // As many as were copied, whether or not all of them were cut: that is meant.
-    Annulations.push_back(
-        {EnregAnnul::Coupe, nullptr, nullptr, PressePapier.Elements.Nombre()});
+    Annulations.push_back({EnregAnnul::Coupe, nullptr, nullptr, PressePapier.Elements.Nombre()});
 }
 
 void BDDGeo::Coller(const BDDGeoClipboard& collage, const PointVek& p, int calque) {

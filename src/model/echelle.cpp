@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "elements/ecrivain.h"
+#include "elements/lecteur.h"
+
 Echelle EchelleCourante;
 
 namespace {
@@ -23,6 +26,19 @@ void Echelle::SetFacteur(double facteur) {
     Facteur = facteur;
     Epsilon = 1e-6 / Facteur;
     Proche10 = 10.0 / Facteur;
+}
+
+void Echelle::Sauve(Ecrivain& sortie) const {
+    sortie << Type << ' ' << Style << '\n'
+           << Position << '\n'
+           << Origine << '\n'
+           << Facteur << '\n';
+}
+
+void Echelle::Charge(Lecteur& entree) {
+    double facteur = Facteur;
+    entree >> Style >> Position >> Origine >> facteur;
+    SetFacteur(facteur);
 }
 
 void Echelle::SetCentre(int largeur, int hauteur) {

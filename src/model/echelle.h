@@ -10,6 +10,11 @@ class Echelle : public EltGeo {
   public:
     Echelle();
 
+    void Sauve(Ecrivain& sortie) const override;
+
+    /// A scale that cannot be worked with leaves the present one.
+    void Charge(Lecteur& entree) override;
+
     /// Takes the middle of an area of largeur by hauteur pixels, by whole halves.
     void SetCentre(int largeur, int hauteur);
 

@@ -2,8 +2,8 @@
 
 #include "elements/eltgeo.h"
 
-/// Shows the content of a named group at its own place, turned and enlarged, without holding it: the
-/// group is looked up at every painting.
+/// Shows the content of a named group at its own place, turned and enlarged, without holding it:
+/// the group is looked up at every painting.
 class EltImage : public EltGeo {
   public:
     EltImage();

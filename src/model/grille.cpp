@@ -1,7 +1,10 @@
 #include "model/grille.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "elements/ecrivain.h"
+#include "elements/lecteur.h"
 #include "elements/trace.h"
 #include "elements/vue.h"
 
@@ -36,6 +39,20 @@ void Grille::Aligne(PointVek& p) const {
     if (!Affichee) return;
     p.x = AligneAxe(p.x, Position.x, Pas);
     p.y = AligneAxe(p.y, Position.y, Pas);
+}
+
+void Grille::Sauve(Ecrivain& sortie) const {
+    sortie << Type << ' ' << Style << '\n'
+           << Position << '\n'
+           << Affichee << '\n'
+           << Pas << ' ' << Forme << '\n';
+}
+
+void Grille::Charge(Lecteur& entree) {
+    double pas = Pas;
+    entree >> Style >> Position >> Affichee >> pas >> Forme;
+    SetPas(pas < 0.0 ? 1.0 : pas);
+    Forme = std::clamp(Forme, 1, 4);
 }
 
 void Grille::Dessine(Trace& trace, int largeur, int hauteur) const {

@@ -22,6 +22,11 @@ class Grille : public EltGeo {
     /// Paints an area of largeur by hauteur pixels.
     void Dessine(Trace& trace, int largeur, int hauteur) const;
 
+    void Sauve(Ecrivain& sortie) const override;
+
+    /// A step that cannot be worked with and a mark that does not exist are mended.
+    void Charge(Lecteur& entree) override;
+
     double Pas = 10.0;
     bool Affichee = false;
     int Forme = 1;  ///< 1 a pixel, 2 a plus of five pixels, 3 and 4 crosses.

@@ -30,22 +30,14 @@ struct Classe {
 };
 
 const Classe Classes[] = {
-    {TypeGeo, Cree<EltGeo>},
-    {TypeSegment, Cree<EltSegment>},
-    {TypePoint, Cree<EltPoint>},
-    {TypeArc, Cree<EltArc>},
-    {TypeProfil, Cree<EltProfil>},
-    {TypeTxt, Cree<EltTxt>},
-    {TypeCote, Cree<EltCote>},
-    {TypeCoteAng, Cree<EltCoteAng>},
-    {TypeCoteVert, Cree<EltCoteVert>},
-    {TypeCoteHori, Cree<EltCoteHori>},
-    {TypeCoteDia, Cree<EltCoteDia>},
-    {TypeCoteRayon, Cree<EltCoteRayon>},
-    {TypeDisque, Cree<EltDisque>},
-    {TypeRectangle, Cree<EltRectangle>},
-    {TypeDroite, Cree<EltDroite>},
-    {TypeBDD, Cree<EltBDD>},
+    {TypeGeo, Cree<EltGeo>},           {TypeSegment, Cree<EltSegment>},
+    {TypePoint, Cree<EltPoint>},       {TypeArc, Cree<EltArc>},
+    {TypeProfil, Cree<EltProfil>},     {TypeTxt, Cree<EltTxt>},
+    {TypeCote, Cree<EltCote>},         {TypeCoteAng, Cree<EltCoteAng>},
+    {TypeCoteVert, Cree<EltCoteVert>}, {TypeCoteHori, Cree<EltCoteHori>},
+    {TypeCoteDia, Cree<EltCoteDia>},   {TypeCoteRayon, Cree<EltCoteRayon>},
+    {TypeDisque, Cree<EltDisque>},     {TypeRectangle, Cree<EltRectangle>},
+    {TypeDroite, Cree<EltDroite>},     {TypeBDD, Cree<EltBDD>},
     {TypeImage, Cree<EltImage>},
 };
 

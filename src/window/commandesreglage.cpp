@@ -5,6 +5,7 @@
 #include "dialogs/demandecouleur.h"
 #include "dialogs/elttxtdialog.h"
 #include "dialogs/intdialog.h"
+#include "dialogs/prefcotedialog.h"
 #include "dialogs/reeldialog.h"
 #include "dialogs/traitdialog.h"
 #include "elements/angles.h"
@@ -64,6 +65,11 @@ void DessinWindow::CollerK() {
 
 void DessinWindow::PrefTxt() {
     EltTxtDialog("Préférences Texte", &Zone.Protos.Txt).run();
+}
+
+void DessinWindow::PrefCote() {
+    PrefCoteDialog(&Zone.Protos.Cote).run();
+    Zone.Protos.DiffuseCote();
 }
 
 void DessinWindow::CouleurFond() {

@@ -48,6 +48,7 @@ class DessinWindow : public Gtk::Window {
     void CollerRotation();
     void CollerK();
     void PrefTxt();
+    void PrefCote();
     void CouleurFond();
     void BoiteAOutil();
     void Etat();

@@ -3,8 +3,8 @@
 template <class Action>
 void Prototypes::Chacun(const Action& action) {
     const std::initializer_list<EltGeo*> prototypes = {
-        &Point,    &Droite,   &Segment, &Arc,       &Disque,  &Txt,       &Cote,
-        &CoteVert, &CoteHori, &CoteDia, &CoteRayon, &CoteAng, &Rectangle, &Profil, &Image,
+        &Point,    &Droite,  &Segment,   &Arc,     &Disque,    &Txt,    &Cote,  &CoteVert,
+        &CoteHori, &CoteDia, &CoteRayon, &CoteAng, &Rectangle, &Profil, &Image,
     };
     for (EltGeo* elt : prototypes)
         action(*elt);
@@ -16,4 +16,13 @@ void Prototypes::DiffuseTrait(const Trait& trait) {
 
 void Prototypes::SetCalque(int calque) {
     Chacun([calque](EltGeo& elt) { elt.Calque = calque; });
+}
+
+void Prototypes::DiffuseCote() {
+    const std::initializer_list<EltTxt*> cotes = {&CoteVert, &CoteHori, &CoteDia, &CoteRayon,
+                                                  &CoteAng};
+    for (EltTxt* cote : cotes) {
+        cote->SetTaille(Cote.Taille);
+        cote->Police = Cote.Police;
+    }
 }

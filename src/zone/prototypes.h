@@ -38,6 +38,9 @@ struct Prototypes {
     void DiffuseTrait(const Trait& trait);
     void SetCalque(int calque);
 
+    /// Gives the other dimensions the size and font of `Cote`.
+    void DiffuseCote();
+
   private:
     template <class Action>
     void Chacun(const Action& action);

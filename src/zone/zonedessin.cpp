@@ -19,11 +19,14 @@ ZoneDessin::ZoneDessin() : CouleurFond("#FFFFFF") {
     RectangleSelection.ChangeTrait(bleu);
     BddCourante.SignalRetrait().connect(sigc::mem_fun(*this, &ZoneDessin::LaisseElement));
     ConstruitPopup();
+    ChargePreferences();
     SetFond(CouleurFond);
     show();
 }
 
-ZoneDessin::~ZoneDessin() = default;
+ZoneDessin::~ZoneDessin() {
+    SauvePreferences();
+}
 
 void ZoneDessin::MetLabels(Gtk::Label* x, Gtk::Label* y, Gtk::Label* action) {
     LabelX = x;

@@ -129,8 +129,8 @@ class ZoneDessin : public Gtk::DrawingArea {
     PointVek PointDepart;                ///< Reference point of a drag, or first point of an arc.
     PointVek PointPrecedent;             ///< Second point of an arc.
     std::shared_ptr<BDDGeoClipboard> Collage;  ///< What waits to be pasted; null before any.
-    double Rayon = 10.0;                 ///< Radius asked for last.
-    unsigned Touche = 0;                 ///< Key held, 0 after any release.
+    double Rayon = 10.0;                       ///< Radius asked for last.
+    unsigned Touche = 0;                       ///< Key held, 0 after any release.
 
   protected:
     bool on_expose_event(GdkEventExpose* evenement) override;
@@ -164,6 +164,9 @@ class ZoneDessin : public Gtk::DrawingArea {
 
     /// The answer of the clipboard, for the state that pastes it.
     void RecoitSelection(const Gtk::SelectionData& donnees, int etat);
+
+    void ChargePreferences();
+    void SauvePreferences() const;
 
     void ConstruitPopup();
     void SupPopup();

@@ -11,6 +11,8 @@ int main(int nombre, char** mots) {
     if (!mkdtemp(dossier)) return 1;
     for (const char* nom : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
         setenv(nom, dossier, 1);
+    // No test finds what another one left behind.
+    setenv("APPDATA", "/nonexistent", 1);
     testing::InitGoogleTest(&nombre, mots);
     Gtk::Main toolkit(nombre, mots, true);
     std::setlocale(LC_NUMERIC, "C");

@@ -228,7 +228,7 @@ TEST(EltCote, PorteeEtBandeDeCeQuiEstPeint) {
         cote.SetPoint1(hasard.Point(60));
         cote.SetPoint2(hasard.Point(60));
         cote.PlaceLigne(hasard.Point(60));
-        cote.Texte = "*";
+        cote.Texte = tour / 6 % 2 == 0 ? "*" : "";
         const Minorant minorant = cote.MinorantDistance();
         NbDecimales = 9;
         const auto image = Peint(cote);

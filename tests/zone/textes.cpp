@@ -55,8 +55,7 @@ TEST(Texte, SePlaceCommeSaBandeLeMontre) {
     banc.Souris.ClicA({-60, -20});
     EXPECT_EQ(banc.Image().Ecart(bande), 0);
     ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
-    EXPECT_EQ(Suite(*BddCourante.Elements.Premier()),
-              "Pièce n°1 ø 12\n0.523599 14 0\nArial\n");
+    EXPECT_EQ(Suite(*BddCourante.Elements.Premier()), "Pièce n°1 ø 12\n0.523599 14 0\nArial\n");
 
     // One band after the other, then none: nothing is left.
     banc.Zone.AnnuleAction();
@@ -67,8 +66,8 @@ TEST(Texte, SePlaceCommeSaBandeLeMontre) {
 }
 
 TEST(Texte, SonCoinSuitLAngle) {
-    // The text runs from its anchor along its angle, its base side on the anchor: seen by the box of
-    // what is painted, for a text longer than high.
+    // The text runs from its anchor along its angle, its base side on the anchor: seen by the box
+    // of what is painted, for a text longer than high.
     const double angles[] = {0.0, Pi / 2.0, Pi, -Pi / 2.0, Pi / 4.0, -3.0 * Pi / 4.0};
     for (const double angle : angles) {
         Banc banc;

@@ -1,0 +1,16 @@
+#include "dialogs/prefcotedialog.h"
+
+#include "dialogs/nombres.h"
+#include "elements/eltcote.h"
+
+// The title is that of the texts: that is meant.
+PrefCoteDialog::PrefCoteDialog(EltCote* cote)
+    : EltTxtDialog("Préférences Texte", cote, false), Decimales(TexteNombre(NbDecimales)) {
+    AjouteChamp("Décimales", Decimales);
+}
+
+void PrefCoteDialog::Prend() {
+    EltTxtDialog::Prend();
+    const auto nombre = Decimales.Nombre();
+    if (nombre && EstNombreDecimales(EnEntier(*nombre))) NbDecimales = EnEntier(*nombre);
+}
