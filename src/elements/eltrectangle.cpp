@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "elements/distances.h"
 #include "elements/trace.h"
@@ -19,7 +20,31 @@ std::unique_ptr<EltGeo> EltRectangle::Clone() const {
     return std::make_unique<EltRectangle>(*this);
 }
 
+/// Inside a turned image: the polygon of the turned corners.
+void EltRectangle::DessineTourne(Trace& trace) const {
+    const CoinsOrdonnes coins = Coins();
+    const PointVek a = vue::VersEcran(coins.HautGauche), b = vue::VersEcran(coins.HautDroite());
+    const PointVek c = vue::VersEcran(coins.BasDroite), d = vue::VersEcran(coins.BasGauche());
+    const Boite boite = Boite::Autour(a, c).Avec(b).Avec(d);
+    if (!trace.Touche(boite, Style)) return;
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style) + 2.0), [&](Trace& t) {
+        const std::vector<LienEcran> cotes = {{a, b, {}}, {b, c, {}}, {c, d, {}}, {d, a, {}}};
+        if (Style.Remplissage) {
+            t.AppliqueTrait(Style, Trace::Surface);
+            t.Polygone(cotes);
+            if (!Style.Contour) return;
+        }
+        t.AppliqueTrait(Style, Trace::Ligne);
+        for (const LienEcran& cote : cotes)
+            t.Lien(cote);
+    });
+}
+
 void EltRectangle::Dessine(Trace& trace) const {
+    if (vue::Rotation() != 0.0) {
+        DessineTourne(trace);
+        return;
+    }
     const CoinsOrdonnes coins = Coins();
     const PointVek a = vue::VersEcran(coins.HautGauche), b = vue::VersEcran(coins.BasDroite);
     double largeur = std::round(b.x - a.x), hauteur = std::round(b.y - a.y);

@@ -44,4 +44,7 @@ class EltRectangle : public EltSegment {
 
     /// True when the centre of elt lies strictly inside.
     bool Contient(const EltGeo& elt) const;
+
+  private:
+    void DessineTourne(Trace& trace) const;
 };

@@ -260,7 +260,7 @@ void Trace::Remplit(std::vector<PointVek> sommets) {
     }
     // The window system takes a time that grows with the square of their number.
     constexpr std::size_t maximum = 10000;
-    const std::size_t pas = pixels.size() / maximum + 1;
+    const std::size_t pas = (pixels.size() / maximum) | 1;  // Odd, for what goes to and fro.
     for (std::size_t i = 0; i < pixels.size(); i += pas)
         pixels[i / pas] = pixels[i];
     pixels.resize((pixels.size() + pas - 1) / pas);

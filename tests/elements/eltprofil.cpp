@@ -293,7 +293,7 @@ TEST(EltProfil, LointainEtImmense) {
     profil.MinorantDistance();
 
     // A surface of very many vertices is painted all the same, and soon.
-    profil = Charge("1\n0\n");
+    profil.Sommets.clear();
     for (int i = 0; i < 100000; ++i)
         profil.Sommets.emplace_back(PointVek(-90 + i * 0.0018, i / 2 % 2 * 100 - 50));
     profil.Style.Remplissage = true;

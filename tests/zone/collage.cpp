@@ -6,6 +6,7 @@
 #include "commun/banc.h"
 #include "elements/angles.h"
 #include "elements/eltarc.h"
+#include "elements/eltrectangle.h"
 #include "elements/eltsegment.h"
 #include "elements/elttxt.h"
 #include "model/bddgeo.h"
@@ -167,6 +168,29 @@ TEST(Groupes, UneImageMontreLeGroupeTourneEtAgrandi) {
     BddCourante.ChargeTexte(texte);
     EXPECT_EQ(BddCourante.SauveTexte(), texte);
     EXPECT_EQ(banc.Image().Ecart(seule), 0);
+}
+
+TEST(Groupes, UnRectangleTourneAvecSonImage) {
+    Banc banc;
+    BDDGeoClipboard contenu;
+    contenu.AjouteFin(std::make_unique<EltRectangle>(PointVek(-40, 40), PointVek(40, -40), 0));
+    BddCourante.CollerCommeBDD(contenu, {-200, 100}, "carre");
+    EltImage image;
+    image.SetIdentificateur("carre");
+    image.Place({100, 0});
+    image.Angle = Pi / 4;
+    BddCourante.Ajoute(image);
+    banc.Zone.Redessine();
+    const Capture tourne = banc.Image();
+    // A corner stands where the half diagonal reaches, and the edge runs slanted to the next one.
+    const auto noir = [&tourne](int x, int y) {
+        for (int j = y - 1; j <= y + 1; ++j)
+            if (tourne.Pixel(x, j) == 0x000000u) return true;
+        return false;
+    };
+    EXPECT_TRUE(noir(400, 200 - 56));
+    EXPECT_TRUE(noir(400 + 28, 200 - 28));
+    EXPECT_FALSE(noir(400 + 40, 200 - 40));
 }
 
 TEST(Groupes, QuiSeContiennentOuSEmboitentSansFin) {

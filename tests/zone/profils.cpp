@@ -139,6 +139,7 @@ TEST(ProfilElt, SuitLesElementsDansLesDeuxSens) {
             Clics(banc, {{-70, 0}, {0, -20}, {70, 0}, {0, 20}});
         // Each click shows at once what it placed: the inverse where it follows an element.
         EXPECT_EQ(banc.Image().Pixel(370, 200), 0xffffffu);
+        EXPECT_EQ(banc.Image().Pixel(230, 200), 0xffffffu);
         EXPECT_EQ(banc.Image().Pixel(300, 180), 0xffffffu);
         banc.Souris.Touche(GDK_End);
         EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_ELT_1);
