@@ -57,34 +57,6 @@ TEST(EltArc, Constructions) {
     EXPECT_EQ(arc.Rayon, 0);
 }
 
-TEST(EltArc, DistancesEtPoignees) {
-    EltArc arc({10, 0}, 50, 0, Pi / 2, 0);
-    EXPECT_DOUBLE_EQ(arc.Distance({-42, 0}), 2);  // On the part that is missing.
-    EXPECT_DOUBLE_EQ(arc.DistanceSupport({11, 0}), 1);
-    EXPECT_DOUBLE_EQ(arc.DistanceSupport({61, 0}), 1);
-    EXPECT_POINT(arc.PointProche({35, 0}), 10, 0);  // A tie goes to the centre.
-    EXPECT_POINT(arc.PointProche({8, 40}), 10, 50);
-
-    const auto saisit = [&arc](double x, double y) {
-        PoigneeCourante = 0;
-        arc.DebutDeforme({x, y});
-        return PoigneeCourante;
-    };
-    EXPECT_EQ(saisit(10, 0), 1);
-    EXPECT_EQ(saisit(13, 45), 2);
-    arc.Deforme({-50, -50});
-    VerifieArc(arc, {10, 0}, 0, 180);
-    EXPECT_EQ(saisit(55, 3), 3);
-    arc.Deforme({-50, 50});
-    VerifieArc(arc, {10, 0}, 90, 180);
-    EXPECT_EQ(saisit(30, 30), 1);
-    arc.Deforme({7, 8});
-    arc.SetRayonPoint({67, 8});
-    EXPECT_EQ(saisit(65, 8), 2);  // A full circle has no start of its own.
-    arc.Deforme({-50, -50});
-    VerifieArc(arc, {17, 8}, 0, 270);
-}
-
 TEST(EltArc, MiroirEtCopie) {
     for (const bool x : {false, true})
         for (const bool y : {false, true}) {

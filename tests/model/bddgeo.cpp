@@ -154,24 +154,6 @@ TEST(BDDGeo, ComptesDesParents) {
     EXPECT_EQ(trou->NbParents, -1);
 }
 
-TEST(BDDGeo, ChercheUnPuisUnAutre) {
-    BDDGeo bdd;
-    EltGeo* cercle = bdd.Ajoute(EltArc({0, 0}, 50, 0, 6, 0));
-    EltGeo* segment = bdd.Ajoute(EltSegment({60, 0}, {90, 0}, 0));
-    EXPECT_EQ(bdd.ChercheProche({5, 1}, true), segment);  // Its endless line is nearer.
-    EXPECT_EQ(bdd.ChercheAutre({5, 1}, true), cercle);    // By its centre.
-    EXPECT_EQ(bdd.ChercheAutre({5, 1}, false), nullptr);
-    // What was too far is remembered all the same.
-    EXPECT_EQ(bdd.ChercheProche({70, 20}, false), nullptr);
-    EXPECT_EQ(bdd.ChercheAutre({58, 0}, false), cercle);
-    // Ten pixels are the limit, and the zoom changes what they are.
-    EXPECT_EQ(bdd.Cherche({70, 10}), nullptr);
-    EXPECT_EQ(bdd.Cherche({70, 9.99}), segment);
-    EchelleCourante.ZoomPlus();
-    EXPECT_EQ(bdd.Cherche({70, 5}), nullptr);
-    EchelleCourante.ZoomInit();
-}
-
 namespace {
 
 std::unique_ptr<EltGeo> AuHasard(Hasard& hasard) {

@@ -65,35 +65,6 @@ TEST(Echelle, Zooms) {
     EXPECT_TRUE(utilisable());
 }
 
-TEST(Grille, PasEtAccrochage) {
-    Grille g;
-    PointVek p(14, 16, 5);
-    g.Aligne(p);
-    EXPECT_POINT(p, 14, 16);  // A hidden grid does not snap.
-    EXPECT_TRUE(g.Bascule());
-    g.Aligne(p);
-    EXPECT_POINT(p, 10, 20);
-    EXPECT_EQ(p.z, 5);
-    p = {15, 15};
-    g.Aligne(p);
-    EXPECT_POINT(p, 20, 20);
-    g.Position = {3, -3};
-    p = {-8, -9};
-    g.Aligne(p);
-    EXPECT_POINT(p, -7, -13);
-    g.SetPas(1e-6);
-    g.SetPas(std::nan(""));
-    EXPECT_EQ(g.Pas, 10);
-    g.SetPas(1000000);
-    g.Plus();
-    EXPECT_EQ(g.Pas, 1000000);
-    g.Moins();
-    EXPECT_EQ(g.Pas, 500000);
-    g.Pas = 1e-6;
-    g.Moins();
-    EXPECT_EQ(g.Pas, 1e-6);
-}
-
 TEST(Grille, Marques) {
     Grille g;
     g.Affichee = true;
