@@ -294,16 +294,22 @@ void Trace::AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) cons
             sommets.push_back(arc.Point(angle));
         return;
     }
-    // Through pixels that the arc's line covers, close to one another: what lies between the edge
-    // and the line would keep the colour of the background.
-    constexpr double fleche = 0.02, demiPixel = 0.5;
+    // Through the pixels of the arc's line, close to one another: what lies between the edge and
+    // the line would keep the colour of the background.
+    constexpr double fleche = 0.02;
     const Carre carre(arc);
     const double rayon = carre.Cote / 2.0;
     const ArcEcran peint{{carre.x + rayon, carre.y + rayon}, rayon, arc.Debut, arc.Ouverture};
+    const auto ecart = [&](const PointVek& p) {
+        return std::abs(Distance(p, peint.Centre) - rayon);
+    };
     for (const double angle : PasArc(peint, Envoyable, fleche)) {
         const PointVek p = peint.Point(angle);
-        const PointVek pixel(std::round(p.x), std::round(p.y));
-        if (std::abs(Distance(pixel, peint.Centre) - rayon) <= demiPixel) sommets.push_back(pixel);
+        const double g = std::floor(p.x), d = std::ceil(p.x);
+        const double h = std::floor(p.y), b = std::ceil(p.y);
+        sommets.push_back(std::min(
+            {PointVek(g, h), PointVek(g, b), PointVek(d, h), PointVek(d, b)},
+            [&](const PointVek& p1, const PointVek& p2) { return ecart(p1) < ecart(p2); }));
     }
 }
 
