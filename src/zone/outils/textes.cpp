@@ -9,14 +9,18 @@
 
 namespace {
 
-Bande ApercuPoint(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Point.Place(p);
-    return BandeDe(zone.Protos.Point);
+/// What is placed by one click: its preview and its addition, for the prototype named.
+template <auto Proto>
+Bande Apercu(ZoneDessin& zone, const PointVek& p) {
+    EltGeo& elt = zone.Protos.*Proto;
+    elt.Place(p);
+    return BandeDe(elt);
 }
 
-bool PlacePoint(ZoneDessin& zone, const PointVek& p) {
-    ApercuPoint(zone, p);
-    zone.Ajoute(zone.Protos.Point);
+template <auto Proto>
+bool Place(ZoneDessin& zone, const PointVek& p) {
+    Apercu<Proto>(zone, p);
+    zone.Ajoute(zone.Protos.*Proto);
     return true;
 }
 
@@ -24,17 +28,6 @@ bool PlacePoint(ZoneDessin& zone, const PointVek& p) {
 bool DemandeTexte(ZoneDessin& zone) {
     zone.Protos.Txt.SetTexte("Texte");
     EltTxtDialog("Texte :", &zone.Protos.Txt).run();
-    return true;
-}
-
-Bande ApercuTexte(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Txt.Place(p);
-    return BandeDe(zone.Protos.Txt);
-}
-
-bool PlaceTexte(ZoneDessin& zone, const PointVek& p) {
-    ApercuTexte(zone, p);
-    zone.Ajoute(zone.Protos.Txt);
     return true;
 }
 
@@ -46,33 +39,22 @@ bool DemandeImage(ZoneDessin& zone) {
     return true;
 }
 
-Bande ApercuImage(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Image.Place(p);
-    return BandeDe(zone.Protos.Image);
-}
-
-bool PlaceImage(ZoneDessin& zone, const PointVek& p) {
-    ApercuImage(zone, p);
-    zone.Ajoute(zone.Protos.Image);
-    return true;
-}
-
 }  // namespace
 
 std::vector<LigneEtat> LignesTextes() {
     return {
         LigneEtat(ETAT_POINT, ETAT_POINT, "Position du Point")
-            .AuClic(PlacePoint, ETAT_POINT)
-            .Montre(ApercuPoint),
+            .AuClic(Place<&Prototypes::Point>, ETAT_POINT)
+            .Montre(Apercu<&Prototypes::Point>),
         LigneEtat(ETAT_TEXTE, ETAT_TEXTE, "Position du texte")
             .Demande(DemandeTexte)
-            .AuClic(PlaceTexte, ETAT_TEXTE)
-            .Montre(ApercuTexte)
+            .AuClic(Place<&Prototypes::Txt>, ETAT_TEXTE)
+            .Montre(Apercu<&Prototypes::Txt>)
             .Pointe(Gdk::TCROSS),
         LigneEtat(ETAT_IMAGE, ETAT_IMAGE, "Position de l'image de BDD")
             .Demande(DemandeImage)
-            .AuClic(PlaceImage, ETAT_IMAGE)
-            .Montre(ApercuImage),
+            .AuClic(Place<&Prototypes::Image>, ETAT_IMAGE)
+            .Montre(Apercu<&Prototypes::Image>),
         LigneEtat(ETAT_IMAGE3D, ETAT_IMAGE3D, "Position de l'image de BDD"),
     };
 }
