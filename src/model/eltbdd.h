@@ -16,6 +16,7 @@ class EltBDD : public EltGeo {
     void Dessine(Trace& trace) const override;
     void Sauve(Ecrivain& sortie) const override;
     void Charge(Lecteur& entree) override;
+    bool Proprietes() override;
 
     /// Paints the content alone, at the origin of the view.
     void DessineContenu(Trace& trace) const;

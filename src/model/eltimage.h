@@ -15,6 +15,7 @@ class EltImage : public EltGeo {
     void Sauve(Ecrivain& sortie) const override;
     void Charge(Lecteur& entree) override;
     bool EstFini() const override;
+    bool Proprietes() override;
 
     /// Blanks become underscores, since a name is one word in a file.
     void SetIdentificateur(const Glib::ustring& identificateur);

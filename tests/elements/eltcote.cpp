@@ -1,9 +1,9 @@
 #include "elements/eltcote.h"
+#include "commun/record.h"
 
 #include <cmath>
 
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "elements/eltarc.h"
 #include "elements/eltcoteang.h"
 #include "elements/eltcotedia.h"
@@ -31,12 +31,6 @@ EltCoteAng Angle(const PointVek& o1, const PointVek& o2, const PointVek& e1, con
     EltCoteAng cote = Entre<EltCoteAng>(o1, o2, e1);
     cote.PlaceExtremite2(e2);
     return cote;
-}
-
-std::string Record(const EltGeo& elt) {
-    Ecrivain sortie;
-    elt.Sauve(sortie);
-    return sortie.Texte();
 }
 
 std::unique_ptr<EltGeo> Relu(const std::string& record) {

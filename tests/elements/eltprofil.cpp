@@ -1,10 +1,10 @@
 #include "elements/eltprofil.h"
+#include "commun/record.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "elements/eltarc.h"
 #include "elements/eltsegment.h"
 #include "elements/lecteur.h"
@@ -21,12 +21,6 @@ EltProfil Charge(const std::string& suite) {
     EltProfil profil;
     profil.Charge(entree);
     return profil;
-}
-
-std::string Texte(const EltProfil& profil) {
-    Ecrivain sortie;
-    profil.Sauve(sortie);
-    return sortie.Texte();
 }
 
 std::vector<unsigned> Peint(const EltProfil& profil, bool bande = false) {
@@ -85,8 +79,8 @@ TEST(EltProfil, Enregistrement) {
     profil.Sommets.emplace_back(PointVek(10, 0), -25);
     profil.Ajoute({21, -3.5, 3});
     const std::string texte = std::string("5 ") + Debut + "1\n3\n0 0 0 10 0 0R-25  20 -5.5 3 \n";
-    EXPECT_EQ(Texte(profil), texte);
-    EXPECT_EQ(Texte(Charge(texte.substr(texte.find("1\n3\n")))), texte);
+    EXPECT_EQ(Record(profil), texte);
+    EXPECT_EQ(Record(Charge(texte.substr(texte.find("1\n3\n")))), texte);
     EXPECT_FALSE(Charge("0\n0\n\n").Ferme);
 
     // The count is a bound and no promise; a vertex enters when all of it could be read.
@@ -146,7 +140,7 @@ TEST(EltProfil, TransformationPoigneesCopie) {
     EltProfil vide;
     EXPECT_EQ(saisit(vide, {500, 300}, {1, 2}), 1);
     vide.Copie(copie);
-    EXPECT_EQ(Texte(vide), Texte(copie));
+    EXPECT_EQ(Record(vide), Record(copie));
 
     EXPECT_TRUE(profil.EstValide());
     profil.Sommets[1] = profil.Sommets[0];

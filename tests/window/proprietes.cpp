@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "bureau.h"
+#include "commun/record.h"
 #include "elements/angles.h"
 #include "elements/eltcoteang.h"
 #include "elements/eltdisque.h"
@@ -18,6 +19,8 @@
 #include "elements/eltrectangle.h"
 #include "elements/elttxt.h"
 #include "model/bddgeo.h"
+#include "model/eltbdd.h"
+#include "model/eltimage.h"
 #include "zone/etats.h"
 
 namespace {
@@ -190,6 +193,32 @@ TEST(Proprietes, ChaqueChampEtLuiSeul) {
     txt.Proprietes();
     EXPECT_EQ(txt.Police, "Serif Italic");
     EXPECT_NEAR(txt.Angle, Pi / 2, 1e-12);
+}
+
+TEST(Proprietes, UnGroupeEtSonImage) {
+    EltBDD groupe;
+    groupe.SetIdentificateur("vis");
+    BDDGeoBase contenu;
+    for (int x : {1, 2, 3})
+        contenu.AjouteFin(std::make_unique<EltArc>(PointVek(x, 0), 1, 0, 1, 0));
+    groupe.CopieListe(contenu);
+    const std::string avant = Record(groupe);
+    EXPECT_EQ(Repond(groupe, {}), "BDD|X=0|Y=0|Z=0|Identificateur=vis|0");
+    EXPECT_EQ(Record(groupe), avant) << "the content and its order stay";
+    Repond(groupe, {{1, "5"}, {3, " vis à tête "}});
+    EXPECT_EQ(groupe.Identificateur, "_vis_à_tête_");
+    EXPECT_EQ(groupe.Position.y, 5.0);
+
+    EltImage image;
+    image.Angle = 1.0 / 3.0;
+    EXPECT_EQ(Repond(image, {{3, "vis"}, {5, "0"}}),
+              "Image de bdd|X=0|Y=0|Z=0|Identificateur=defaut|angle=19.099|Agrandissement=1|0");
+    EXPECT_EQ(image.Identificateur, "vis");
+    EXPECT_EQ(image.Angle, 1.0 / 3.0);
+    EXPECT_EQ(image.Agrandissement, 1.0);
+    Repond(image, {{4, "-90"}, {5, "2,5"}});
+    EXPECT_NEAR(image.Angle, -Pi / 2, 1e-12);
+    EXPECT_EQ(image.Agrandissement, 2.5);
 }
 
 TEST(Proprietes, UneCoteAutomatique) {

@@ -3,18 +3,16 @@
 #include <gtest/gtest.h>
 
 #include "commun/banc.h"
+#include "commun/record.h"
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "model/bddgeo.h"
 #include "zone/etats.h"
 
 namespace {
 
 /// A record without its style: type, position, text, measures, font, points.
-std::string Record(const EltGeo& elt) {
-    Ecrivain sortie;
-    elt.Sauve(sortie);
-    const std::string texte = sortie.Texte();
+std::string Mesures(const EltGeo& elt) {
+    const std::string texte = Record(elt);
     return texte.substr(0, texte.find(' ') + 1) + texte.substr(texte.find("0  0\n") + 5);
 }
 
@@ -76,7 +74,7 @@ TEST(Cotes, ChaqueOutilAjouteCeQueSaBandeMontre) {
         const Capture ajoute = banc.Image();
         ASSERT_EQ(BddCourante.Elements.Nombre(), 2);
         auto& cote = static_cast<EltCote&>(*BddCourante.Elements.Premier());
-        EXPECT_EQ(Record(cote), geste.Record);
+        EXPECT_EQ(Mesures(cote), geste.Record);
         EXPECT_GT(ajoute.Ecart(vide), 100);
         EXPECT_EQ(bande.EcartSur(vide, ajoute), 0);
         EXPECT_EQ(banc.Zone.EtatCourant(), geste.Etat);

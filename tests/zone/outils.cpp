@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "commun/banc.h"
+#include "commun/record.h"
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "model/bddgeo.h"
 #include "zone/etats.h"
 
@@ -42,14 +42,6 @@ void PoseDecor() {
     AjouteSegment({-200.0, -190.0}, {-200.0, -10.0});
     AjouteCercle({-100.0, 100.0}, 50.0);
     AjouteCercle({100.0, 100.0}, 50.0);
-}
-
-std::string DerniereLigne(const EltGeo& elt) {
-    Ecrivain sortie;
-    elt.Sauve(sortie);
-    std::string texte = sortie.Texte();
-    texte.pop_back();
-    return texte.substr(texte.rfind('\n') + 1);
 }
 
 class Outil : public testing::TestWithParam<Geste> {};

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "commun/banc.h"
+#include "commun/record.h"
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "elements/eltarc.h"
 #include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
@@ -15,13 +15,9 @@
 
 namespace {
 
-/// The last line of the newest element's record.
+/// That of the newest element.
 std::string DerniereLigne() {
-    Ecrivain sortie;
-    BddCourante.Elements.Premier()->Sauve(sortie);
-    std::string texte = sortie.Texte();
-    texte.pop_back();
-    return texte.substr(texte.rfind('\n') + 1);
+    return DerniereLigne(*BddCourante.Elements.Premier());
 }
 
 void Clics(Banc& banc, std::initializer_list<PointVek> clics) {

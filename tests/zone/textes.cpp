@@ -5,20 +5,14 @@
 #include <gtkmm/table.h>
 
 #include "commun/banc.h"
+#include "commun/record.h"
 #include "elements/angles.h"
-#include "elements/ecrivain.h"
 #include "elements/lecteur.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "zone/etats.h"
 
 namespace {
-
-std::string Record(const EltGeo& elt) {
-    Ecrivain sortie;
-    elt.Sauve(sortie);
-    return sortie.Texte();
-}
 
 /// The lines of a record behind the common ones.
 std::string Suite(const EltGeo& elt) {
