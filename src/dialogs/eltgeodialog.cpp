@@ -64,10 +64,11 @@ void EltGeoDialog::Prend() {
     const PointVek& p = Valeur->Position;
     if (x || y || z) Valeur->Place({x.value_or(p.x), y.value_or(p.y), z.value_or(p.z)});
     PrendChamps();
-    if (const auto calque = Calque.Nombre()) Valeur->Calque = EnEntier(*calque);
-    if (StyleModifie) Valeur->ChangeTrait(Style);
     const bool fini = Valeur->EstFini() && Valeur->Position.EstFini();
+    // A measure that cannot be costs the user no more than that measure's fields.
     if (fini && (Valeur->EstValide() || !Elt->EstValide())) Elt->Copie(*Valeur);
+    if (const auto calque = Calque.Nombre()) Elt->Calque = EnEntier(*calque);
+    if (StyleModifie) Elt->ChangeTrait(Style);
 }
 
 bool EltGeo::Proprietes() {

@@ -14,44 +14,37 @@ namespace {
 /// One field of the dialog.
 struct Mesure {
     const char* Libelle;
+    bool DUnBout;  ///< Of a point, which may be anywhere; the others need two points apart.
     double (*Lit)(const EltSegment& segment);
     void (*Ecrit)(EltSegment& segment, double valeur);
 };
 
 /// A coordinate of one of the two points.
-template <PointVek EltSegment::*Bout, void (EltSegment::*Place)(const PointVek&),
-          double PointVek::*Axe>
+template <PointVek EltSegment::*Bout, double PointVek::*Axe>
 constexpr Mesure Cote(const char* libelle) {
-    return {libelle, [](const EltSegment& segment) { return segment.*Bout.*Axe; },
+    return {libelle, true, [](const EltSegment& segment) { return segment.*Bout.*Axe; },
             [](EltSegment& segment, double valeur) {
-                PointVek p = segment.*Bout;
-                p.*Axe = valeur;
-                (segment.*Place)(p);
+                PointVek points[] = {segment.Origine, segment.Extremite};
+                points[Bout == &EltSegment::Origine ? 0 : 1].*Axe = valeur;
+                segment.SetPoints(points[0], points[1]);
             }};
 }
 
-template <double PointVek::*Axe>
-constexpr Mesure CoteOrigine(const char* libelle) {
-    return Cote<&EltSegment::Origine, &EltSegment::SetOrigine, Axe>(libelle);
-}
-
-template <double PointVek::*Axe>
-constexpr Mesure CoteExtremite(const char* libelle) {
-    return Cote<&EltSegment::Extremite, &EltSegment::SetExtremite, Axe>(libelle);
-}
-
 constexpr Mesure Bouts[] = {
-    CoteOrigine<&PointVek::x>("Origine X"), CoteOrigine<&PointVek::y>("Y"),
-    CoteOrigine<&PointVek::z>("Z"),         CoteExtremite<&PointVek::x>("Extrémité X"),
-    CoteExtremite<&PointVek::y>("Y"),       CoteExtremite<&PointVek::z>("Z"),
+    Cote<&EltSegment::Origine, &PointVek::x>("Origine X"),
+    Cote<&EltSegment::Origine, &PointVek::y>("Y"),
+    Cote<&EltSegment::Origine, &PointVek::z>("Z"),
+    Cote<&EltSegment::Extremite, &PointVek::x>("Extrémité X"),
+    Cote<&EltSegment::Extremite, &PointVek::y>("Y"),
+    Cote<&EltSegment::Extremite, &PointVek::z>("Z"),
 };
 
 constexpr Mesure MesureLongueur = {
-    "Longueur", [](const EltSegment& segment) { return segment.Longueur(); },
+    "Longueur", false, [](const EltSegment& segment) { return segment.Longueur(); },
     [](EltSegment& segment, double longueur) { segment.SetLongueur(longueur); }};
 
 constexpr Mesure MesureAngle = {
-    "Angle",
+    "Angle", false,
     [](const EltSegment& segment) {
         return EnDegres(AngleReduit(segment.Angle(), vue::Epsilon()));
     },
@@ -90,7 +83,7 @@ class EltSegmentDialog : public EltGeoDialog {
         if (EnRemplissage) return;
         if (EnCours != ligne.Quoi) {
             EnCours = ligne.Quoi;
-            if (Segment.EstValide()) Depart->Copie(Segment);
+            if (ligne.Quoi->DUnBout || Segment.EstValide()) Depart->Copie(Segment);
         }
         Segment.Copie(*Depart);
         if (const auto valeur = ligne.Champ->Nombre()) ligne.Quoi->Ecrit(Segment, *valeur);

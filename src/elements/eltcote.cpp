@@ -124,7 +124,14 @@ void EltCote::Transforme(const TransformeColle& t) {
 }
 
 void EltCote::Sauve(Ecrivain& sortie) const {
-    EltTxt::Sauve(sortie);
+    // The angle as it follows from the points that are written, so that a drawing that is opened
+    // and saved again gives the same file.
+    const auto ecrite = Clone();
+    auto& cote = static_cast<EltCote&>(*ecrite);
+    cote.Point1 = CommeEcrit(Point1);
+    cote.Point2 = CommeEcrit(Point2);
+    cote.AccordeAngle();
+    cote.EltTxt::Sauve(sortie);
     sortie << Point1 << ' ' << Point2 << '\n';
 }
 

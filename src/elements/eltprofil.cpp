@@ -50,12 +50,7 @@ LienEcran EltProfil::Lien(const SommetProfil& precedent, const SommetProfil& som
     const auto arc = sommet.Arc(precedent);
     lien.Visible = arc.has_value();
     if (!arc) return lien;
-    double rayon = vue::LongueurEcran(arc->Rayon), debut = arc->Debut + vue::Rotation();
-    if (rayon < 0.0) {
-        // A negative enlargement is half a turn.
-        rayon = -rayon;
-        debut += Pi;
-    }
+    const double rayon = vue::LongueurEcran(arc->Rayon), debut = arc->Debut + vue::Rotation();
     // What is straight to the eye needs no centre, which may be too far away to be known.
     constexpr double droit = 0.1;
     if (rayon * (1.0 - std::cos(arc->Ouverture / 2.0)) < droit) return lien;
@@ -145,7 +140,7 @@ void EltProfil::Charge(Lecteur& entree) {
 
 int EltProfil::SommetProche(const PointVek& p) const {
     int proche = -1;
-    double distance = 1.0 / vue::Epsilon();
+    double distance = HUGE_VAL;
     for (std::size_t i = 0; i < Sommets.size(); ++i) {
         const double d = ::Distance(p, Absolu(Sommets[i]));
         if (!(d < distance)) continue;

@@ -8,6 +8,7 @@
 #include "elements/lecteur.h"
 #include "elements/texteecran.h"
 #include "elements/trace.h"
+#include "elements/tuile.h"
 #include "elements/vue.h"
 
 namespace {
@@ -58,11 +59,14 @@ void EltTxt::DessineTexte(Trace& trace, const Glib::ustring& texte, double angle
                           bool centre) const {
     const PointVek ancre = vue::VersEcran(Position);
     const double portee = vue::LongueurEcran(Portee(texte));
-    if (!trace.Touche(Boite::Autour(ancre, ancre).Elargie(portee), Style)) return;
-    DessineCroix(trace, ancre, 1.0);
-    trace.Texte({texte, Police, vue::LongueurEcran(Taille), angle + vue::Rotation(),
+    const Boite boite = Boite::Autour(ancre, ancre).Elargie(portee);
+    if (!trace.Touche(boite, Style)) return;
+    trace.Compose(boite.Elargie(EpaisseurBornee(Style) + 2.0), [&](Trace& t) {
+        DessineCroix(t, ancre, 1.0);
+        t.Texte({texte, Police, vue::LongueurEcran(Taille), angle + vue::Rotation(),
                  centre ? TexteEcran::Milieu : TexteEcran::Debut, ancre},
                 Style.Couleur);
+    });
 }
 
 double EltTxt::Portee(const Glib::ustring& texte) const {
@@ -82,7 +86,7 @@ void EltTxt::Charge(Lecteur& entree) {
     EltGeo::Charge(entree);
     entree.Ligne();
     const std::string_view texte = entree.Ligne();
-    if (!entree.Echec()) Texte = Coupe(EnUtf8(texte).raw(), OctetsLus);
+    if (!entree.Echec()) Texte = Coupe(EnLigne(EnUtf8(texte)).raw(), OctetsLus);
     entree >> Angle >> Taille;
     const std::string_view centre = entree.Ligne();
     const std::string_view police = entree.Ligne();

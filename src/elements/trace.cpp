@@ -197,6 +197,13 @@ void Trace::Compose(const Boite& boite, const std::function<void(Trace&)>& dessi
                       hauteur);
 }
 
+bool Trace::PeutPeindreContenus(int nombre) {
+    constexpr int limite = 100000;
+    if (ContenusPeints >= limite) return false;
+    ContenusPeints += nombre;
+    return true;
+}
+
 void Trace::Segment(const PointVek& a, const PointVek& b) {
     LigneDepuis(a, b, 0.0);
 }
@@ -405,7 +412,7 @@ void Trace::Croix(const PointVek& centre, double bras) {
 }
 
 void Trace::Texte(const TexteEcran& texte, const Gdk::Color& couleur) {
-    if (texte.EstInvisible() || !Envoyable.Contient(texte.Ancre)) return;
+    if (texte.EstInvisible()) return;
     const TexteMisEnPage mise(texte);
     const Boite boite = mise.Cadre();
     if (!boite.Touche(Zone)) return;

@@ -68,9 +68,9 @@ class Trace {
 
     void Texte(const TexteEcran& texte, const Gdk::Color& couleur);
 
-    /// Whether one more content may be painted through an image: a drawing whose images hold one
-    /// another must not take for ever.
-    bool PeutPeindreContenu() { return ++ContenusPeints <= 100000; }
+    /// Whether that many elements more may be painted through an image: a drawing whose images hold
+    /// one another must not take for ever.
+    bool PeutPeindreContenus(int nombre);
 
     /// One pixel.
     void Point(const PointVek& p);

@@ -1,5 +1,8 @@
 #include "model/eltbdd.h"
 
+#include <unordered_map>
+#include <vector>
+
 #include "elements/ecrivain.h"
 #include "elements/encodage.h"
 #include "elements/lecteur.h"
@@ -42,17 +45,34 @@ void EltBDD::Copie(const EltGeo& source) {
 
 void EltBDD::CopieListe(const BDDGeoBase& source) {
     Contenu.Vide();
+    std::unordered_map<const EltGeo*, EltGeo*> clones;
     for (const EltGeo* elt : source.Elements)
-        Contenu.AjouteDebut(elt->Clone());
+        clones[elt] = Contenu.AjouteDebut(elt->Clone());
+    // The clones hold their own children, not those of the source.
+    for (EltGeo* elt : Contenu.Elements) {
+        std::vector<EltGeo*> fils(elt->Fils.begin(), elt->Fils.end());
+        elt->Fils.Vide();
+        for (EltGeo* ancien : fils)
+            if (const auto clone = clones.find(ancien); clone != clones.end())
+                elt->AjouteFils(clone->second);
+    }
 }
 
 void EltBDD::Dessine(Trace& trace) const {
-    EltGeo::Dessine(trace);
-    const PointVek coin = vue::VersEcran(Position);
-    TexteEcran nom{Identificateur, "Courrier", 10.0, 0.0, TexteEcran::CoinHaut, coin};
-    trace.Texte(nom, Style.Couleur);
-    const VueDecalee decalee(Position);
-    DessineContenu(trace);
+    trace.Compose(trace.ZonePeinte(), [this](Trace& t) {
+        EltGeo::Dessine(t);
+        const PointVek coin = vue::VersEcran(Position);
+        t.Texte({Identificateur, "Courrier", 10.0, 0.0, TexteEcran::CoinHaut, coin}, Style.Couleur);
+        const VueDecalee decalee(Position);
+        DessineContenu(t);
+    });
+}
+
+int EltBDD::NombrePeints() const {
+    int nombre = Contenu.Elements.Nombre();
+    for (const EltGeo* elt : Contenu.Elements)
+        if (elt->Type == TypeBDD) nombre += static_cast<const EltBDD*>(elt)->NombrePeints();
+    return nombre;
 }
 
 void EltBDD::DessineContenu(Trace& trace) const {

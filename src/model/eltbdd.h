@@ -21,6 +21,9 @@ class EltBDD : public EltGeo {
     /// Paints the content alone, at the origin of the view.
     void DessineContenu(Trace& trace) const;
 
+    /// How many elements that takes, those of groups within the group included.
+    int NombrePeints() const;
+
     /// Replaces the content by clones of the source's elements, in reverse order.
     void CopieListe(const BDDGeoBase& source);
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "elements/angles.h"
 #include "elements/ecrivain.h"
 #include "elements/encodage.h"
 #include "elements/lecteur.h"
@@ -35,11 +36,19 @@ void EltImage::Copie(const EltGeo& source) {
 }
 
 void EltImage::Dessine(Trace& trace) const {
-    EltGeo::Dessine(trace);
-    if (Profondeur + 1 >= ProfondeurMax || !trace.PeutPeindreContenu()) return;
+    trace.Compose(trace.ZonePeinte(), [this](Trace& t) {
+        EltGeo::Dessine(t);
+        DessineGroupe(t);
+    });
+}
+
+void EltImage::DessineGroupe(Trace& trace) const {
+    if (Profondeur + 1 >= ProfondeurMax) return;
     const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
-    if (!groupe) return;
-    const VueDecalee decalee(Position, Angle, Agrandissement);
+    if (!groupe || !trace.PeutPeindreContenus(groupe->NombrePeints())) return;
+    // A negative enlargement is half a turn.
+    const VueDecalee decalee(Position, Agrandissement < 0.0 ? Angle + Pi : Angle,
+                             std::abs(Agrandissement));
     ++Profondeur;
     groupe->DessineContenu(trace);
     --Profondeur;

@@ -23,4 +23,7 @@ class EltImage : public EltGeo {
     Glib::ustring Identificateur;
     double Angle = 0.0;  ///< Radians.
     double Agrandissement = 1.0;
+
+  private:
+    void DessineGroupe(Trace& trace) const;
 };

@@ -68,8 +68,11 @@ void DessinWindow::PrefTxt() {
 }
 
 void DessinWindow::PrefCote() {
-    PrefCoteDialog(&Zone.Protos.Cote).run();
+    PrefCoteDialog dialogue(&Zone.Protos.Cote);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
     Zone.Protos.DiffuseCote();
+    // Values are shown with the new decimals, in a drag's preview as well.
+    Zone.DessinChange();
 }
 
 void DessinWindow::CouleurFond() {

@@ -82,8 +82,7 @@ void ZoneDessin::SupPopup() {
 
 void ZoneDessin::PropPopup() {
     BddCourante.ProprieteProche(PointSouris);
-    // A drag would go on with the element as it was.
-    if (EltDeforme) MetEtat(LigneDe(Etat).Premier);
+    LaisseDeplacement();
     // The layer typed may be a hidden one.
     SetCalqueAffiche(BddCourante.CalqueAffiche());
 }

@@ -1,6 +1,7 @@
 // The engine of the tool machine: entering and leaving states, clicks, previews.
 
 #include "model/bddgeo.h"
+#include "zone/etats.h"
 #include "zone/tableetats.h"
 #include "zone/zonedessin.h"
 
@@ -17,10 +18,7 @@ void ZoneDessin::RazEtat() {
 void ZoneDessin::MetEtat(int etat) {
     Etat = etat;
     const LigneEtat& ligne = LigneDe(etat);
-    if (ligne.Premier == etat) {
-        EltCourant = EltCopie = nullptr;
-        EltDeforme.reset();
-    }
+    if (ligne.Premier == etat) EltCourant = EltCopie = nullptr;
     // Within a ring the last preview stays until the pointer moves.
     if (ligne.Premier == etat || !ligne.Apercu) Dessus.Montre(Surimpression::Apercu, {});
     MontrePoignees();
@@ -68,9 +66,12 @@ void ZoneDessin::MontrePoignees() {
 }
 
 void ZoneDessin::LaisseElement(EltGeo* elt) {
-    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltCopie ||
-                                     (EltDeforme && EltDeforme->Fils.Contient(elt)));
+    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltCopie);
     if (tenu) MetEtat(LigneDe(Etat).Premier);
+}
+
+void ZoneDessin::LaisseDeplacement() {
+    if (Etat == ETAT_MODIFIE_POSITION) MetEtat(LigneDe(Etat).Premier);
 }
 
 void ZoneDessin::Ajoute(const EltGeo& prototype) {

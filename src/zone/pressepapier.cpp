@@ -80,8 +80,18 @@ void ZoneDessin::ChangeSymetrieY() {
 void ZoneDessin::CopieBitmap() {
     const auto fenetre = get_window();
     if (!fenetre) return;
+    // The drawing alone: no marker, preview or handle.
+    for (const auto place : {Surimpression::Poignees, Surimpression::Apercu, Surimpression::Repere})
+        Dessus.Montre(place, {});
     Redessine();
     fenetre->process_updates(false);
+    PrendImage(fenetre);
+    MontrePoignees();
+    MontreApercu();
+    MajRepere();
+}
+
+void ZoneDessin::PrendImage(const Glib::RefPtr<Gdk::Window>& fenetre) {
     const EltRectangle::CoinsOrdonnes coins = RectangleSelection.Coins();
     const PointVek a = EchelleCourante.VersEcran(coins.HautGauche);
     const PointVek b = EchelleCourante.VersEcran(coins.BasDroite);

@@ -170,6 +170,7 @@ void ZoneDessin::Nouveau() {
 
 void ZoneDessin::AnnuleAction() {
     BddCourante.Annule();
+    LaisseDeplacement();
     DessinChange();
 }
 

@@ -123,11 +123,10 @@ class ZoneDessin : public Gtk::DrawingArea {
     Prototypes Protos;
     EltRectangle RectangleSelection;  ///< The zone selection, in a style of its own.
     bool SelectionVisible = false;
-    EltGeo* EltCourant = nullptr;        ///< Found by the last pick; the drawing's.
-    EltGeo* EltCopie = nullptr;          ///< The second element of a tool; the drawing's.
-    std::unique_ptr<EltGeo> EltDeforme;  ///< The copy that a drag deforms.
-    PointVek PointDepart;                ///< Reference point of a drag, or first point of an arc.
-    PointVek PointPrecedent;             ///< Second point of an arc.
+    EltGeo* EltCourant = nullptr;  ///< Found by the last pick; the drawing's.
+    EltGeo* EltCopie = nullptr;    ///< The second element of a tool; the drawing's.
+    PointVek PointDepart;          ///< Reference point of a drag, or first point of an arc.
+    PointVek PointPrecedent;       ///< Second point of an arc.
     std::shared_ptr<BDDGeoClipboard> Collage;  ///< What waits to be pasted; null before any.
     double Rayon = 10.0;                       ///< Radius asked for last.
     unsigned Touche = 0;                       ///< Key held, 0 after any release.
@@ -157,10 +156,14 @@ class ZoneDessin : public Gtk::DrawingArea {
 
     /// Lets go of an element that leaves the drawing, of all with null.
     void LaisseElement(EltGeo* elt);
+
+    /// Gives up a drag whose element has changed under it.
+    void LaisseDeplacement();
     void FinProfil();
 
     void Copie(bool couper);
     void DonneSelection(Gtk::SelectionData& donnees, guint info);
+    void PrendImage(const Glib::RefPtr<Gdk::Window>& fenetre);
 
     /// The answer of the clipboard, for the state that pastes it.
     void RecoitSelection(const Gtk::SelectionData& donnees, int etat);

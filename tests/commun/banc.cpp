@@ -4,6 +4,7 @@
 #include <glibmm/main.h>
 #include <gtkmm/entry.h>
 #include <gtkmm/main.h>
+#include <gtkmm/menu.h>
 
 #include "model/bddgeo.h"
 #include "model/echelle.h"
@@ -90,6 +91,20 @@ void Main::Presse(double x, double y, int bouton, GdkEventType type) {
     evenement.button.y = y;
     evenement.button.button = static_cast<guint>(bouton);
     gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+}
+
+std::vector<Gtk::MenuItem*> Main::MenuDroit(double x, double y) {
+    Presse(x, y, 3);
+    LaisseTourner();
+    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+        auto* menu = fenetre->get_visible() ? PremierDe<Gtk::Menu>(*fenetre) : nullptr;
+        if (!menu) continue;
+        std::vector<Gtk::MenuItem*> entrees;
+        Recolte(*menu, entrees);
+        menu->popdown();
+        return entrees;
+    }
+    return {};
 }
 
 void Main::Tourne(double x, double y, GdkScrollDirection sens) {

@@ -2,10 +2,12 @@
 
 #include <gdkmm/pixbuf.h>
 #include <gtkmm/dialog.h>
+#include <gtkmm/menuitem.h>
 #include <gtkmm/window.h>
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "zone/zonedessin.h"
 
@@ -26,6 +28,15 @@ Type* PremierDe(Gtk::Widget& racine) {
         for (Gtk::Widget* enfant : boite->get_children())
             if (Type* trouve = PremierDe<Type>(*enfant)) return trouve;
     return nullptr;
+}
+
+/// All widgets of a type below another, itself included, in the order of their containers.
+template <class Type>
+void Recolte(Gtk::Widget& racine, std::vector<Type*>& trouves) {
+    if (auto* trouve = dynamic_cast<Type*>(&racine)) trouves.push_back(trouve);
+    if (auto* boite = dynamic_cast<Gtk::Container*>(&racine))
+        for (Gtk::Widget* enfant : boite->get_children())
+            Recolte(*enfant, trouves);
 }
 
 /// What a window or its area shows, as bytes that can be compared.
@@ -57,6 +68,9 @@ class Main {
     void Presse(double x, double y, int bouton = 1, GdkEventType type = GDK_BUTTON_PRESS);
     void Tourne(double x, double y, GdkScrollDirection sens);
     void Touche(unsigned touche);
+
+    /// Opens the menu of a right click and closes it; its entries.
+    std::vector<Gtk::MenuItem*> MenuDroit(double x, double y);
 
     // The same at drawing positions, through the present view.
     void BougeA(const PointVek& p);

@@ -9,3 +9,6 @@ std::string Record(const EltGeo& elt);
 
 /// Its last line.
 std::string DerniereLigne(const EltGeo& elt);
+
+/// The bytes of a file.
+std::string Contenu(const std::string& chemin);

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "commun/hasard.h"
 #include "elements/angles.h"
 #include "elements/eltarc.h"
 #include "elements/eltcoteang.h"
@@ -10,7 +11,6 @@
 #include "elements/eltcotehori.h"
 #include "elements/eltcoterayon.h"
 #include "elements/eltcotevert.h"
-#include "elements/hasard.h"
 #include "elements/lecteur.h"
 #include "model/registre.h"
 #include "toile.h"
@@ -228,6 +228,8 @@ TEST(EltCote, PorteeEtBandeDeCeQuiEstPeint) {
         const auto image = Peint(cote);
         EXPECT_EQ(Peint(cote, true), image);
         NbDecimales = 2;
+        const std::string record = Record(cote);
+        EXPECT_EQ(Record(*Relu(record)), record);
         int hors = 0;
         for (int y = 0; y < Toile::Hauteur; ++y)
             for (int x = 0; x < Toile::Largeur; ++x) {

@@ -2,11 +2,11 @@
 
 #include <vector>
 
+#include "commun/hasard.h"
 #include "elements/angles.h"
 #include "elements/eltarc.h"
 #include "elements/eltdroite.h"
 #include "elements/eltrectangle.h"
-#include "hasard.h"
 #include "verifie.h"
 
 namespace {

@@ -2,11 +2,11 @@
 
 #include <memory>
 
+#include "commun/hasard.h"
 #include "elements/angles.h"
 #include "elements/eltarc.h"
 #include "elements/eltdroite.h"
 #include "elements/eltrectangle.h"
-#include "hasard.h"
 #include "verifie.h"
 
 namespace {

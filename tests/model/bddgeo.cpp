@@ -4,10 +4,10 @@
 
 #include <vector>
 
+#include "commun/hasard.h"
 #include "elements/eltarc.h"
 #include "elements/eltdroite.h"
 #include "elements/eltrectangle.h"
-#include "elements/hasard.h"
 #include "elements/toile.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "model/echelle.h"
 
-#include "elements/hasard.h"
+#include "commun/hasard.h"
 #include "elements/toile.h"
 #include "elements/verifie.h"
 #include "model/grille.h"

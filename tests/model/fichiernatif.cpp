@@ -8,22 +8,20 @@
 #include <string>
 #include <vector>
 
+#include "commun/hasard.h"
+#include "commun/mutation.h"
+#include "commun/record.h"
 #include "elements/eltarc.h"
 #include "elements/eltdroite.h"
-#include "elements/hasard.h"
 #include "elements/lecteur.h"
 #include "elements/toile.h"
 #include "model/bddgeo.h"
 
 namespace {
 
-std::string Contenu(const std::string& chemin) {
-    std::ostringstream texte;
-    texte << std::ifstream(chemin, std::ios::binary).rdbuf();
-    return texte.str();
-}
-
+// What mechanical parts are drawn with, and all that a sheet holds besides.
 const char* const Pieces = KRVEK_ESSAIS "/model/data/pieces.vek";
+const char* const Feuille = KRVEK_ESSAIS "/model/data/feuille.vek";
 
 /// A segment's record from (x, 0) to (x, 10), without its type code.
 std::string Segment(int x) {
@@ -74,6 +72,9 @@ TEST(FichierNatif, OctetPourOctet) {
     bdd.Modifie = true;
     EXPECT_EQ(bdd.SauveTexte(), Contenu(Pieces));
     EXPECT_FALSE(bdd.Modifie);
+    BDDGeo feuille;
+    feuille.Ouvre(Feuille);
+    EXPECT_EQ(feuille.SauveTexte(), Contenu(Feuille));
 
     const std::vector<EltGeo*> elts(bdd.Elements.begin(), bdd.Elements.end());
     ASSERT_EQ(elts.size(), 7u);
@@ -182,69 +183,46 @@ TEST(FichierNatif, MessageDeVersionUneFois) {
     EXPECT_EQ(bdd.Elements.Nombre(), 7);
 }
 
-namespace {
-
-std::string Mute(std::string texte, Hasard& hasard) {
-    static const char* const nombres[] = {"1e400", "nan",   "-1",     "2147483647",
-                                          "1e308", "10000", "-1e308", "1e-9",
-                                          "0",     "4",     "",       "99999999999"};
-    for (int coups = 1 + hasard.Entier(4); coups > 0 && !texte.empty(); --coups) {
-        const auto ou = static_cast<std::size_t>(hasard.Entier(static_cast<int>(texte.size())));
-        const std::size_t mot = texte.find_first_of(" \n", ou);
-        switch (hasard.Entier(5)) {
-            case 0:
-                texte[ou] = static_cast<char>(texte[ou] ^ (1 << hasard.Entier(8)));
-                break;
-            case 1:
-                texte.resize(std::max<std::size_t>(ou, 11));
-                break;
-            case 2: {
-                const std::size_t fin = texte.find('\n', ou);
-                const std::size_t debut = texte.rfind('\n', ou) + 1;
-                if (fin != std::string::npos)
-                    texte.insert(fin + 1, texte.substr(debut, fin + 1 - debut));
-                break;
-            }
-            default:
-                if (mot == std::string::npos) break;
-                texte.replace(mot + 1, texte.find_first_of(" \n", mot + 1) - mot - 1,
-                              nombres[hasard.Entier(12)]);
-        }
-    }
-    return texte;
-}
-
-}  // namespace
-
 TEST(FichierNatif, MutationsAuHasard) {
-    const std::string bon = Contenu(Pieces);
+    const std::string bons[] = {Contenu(Pieces), Contenu(Feuille)};
     Hasard hasard(5);
-    BDDGeo bdd;
-    const auto relit = [&bdd](const std::string& texte) {
-        bdd.Vide();
+    const auto relit = [](const std::string& texte) {
+        BddCourante.Vide();
         Lecteur entree(texte);
-        bdd.Charge(entree);
-        return bdd.SauveTexte();
+        BddCourante.Charge(entree);
+        return BddCourante.SauveTexte();
     };
     int lus = 0;
     const Toile toile;
-    for (int essai = 0; essai < 4000; ++essai) {
-        const std::string texte = Mute(bon, hasard);
+    for (int essai = 0; essai < 6000; ++essai) {
+        const std::string texte = Mute(bons[essai % 2], hasard);
         const std::string premier = relit(texte);
         ASSERT_LE(premier.size(), 2 * texte.size() + 500);
-        const int nombre = bdd.Elements.Nombre();
+        const int nombre = BddCourante.Elements.Nombre();
         lus += nombre;
         // The format rounds, so that a middle may still move in its last digit at the first
         // reading.
         const std::string second = relit(premier);
-        ASSERT_EQ(bdd.Elements.Nombre(), nombre) << texte;
+        ASSERT_EQ(BddCourante.Elements.Nombre(), nombre) << texte;
         ASSERT_EQ(relit(second), second) << texte;
-        // What was read can be searched and painted, whatever it is.
-        if (essai % 8 != 0) continue;
-        bdd.Cherche({1, 2});
+        // What was read can be searched, painted and pasted, whatever it is.
+        if (essai % 8 > 1) continue;
+        BddCourante.Cherche({1, 2});
         Trace trace = toile.Pinceau(), bande = toile.Bande();
-        bdd.Dessine(trace);
-        bdd.Dessine(bande);
+        BddCourante.Dessine(trace);
+        BddCourante.Dessine(bande);
+        BDDGeoClipboard collage;
+        collage.ChargeTexte(premier);
+        TransformeColle transforme;
+        transforme.SymetrieX = hasard.Entier(2) == 1;
+        transforme.Sin = transforme.Cos = std::sqrt(0.5);
+        transforme.Agrandissement = hasard.Entier(2) == 1 ? 999.0 : 0.002;
+        collage.TransformeTout(transforme);
+        BddCourante.Coller(collage, {5, 5}, 0);
+        BddCourante.Dessine(trace);
+        for (const EltGeo* elt : BddCourante.Elements)
+            ASSERT_TRUE(elt->EstFini()) << texte;
     }
-    EXPECT_GT(lus, 8000);
+    EXPECT_GT(lus, 12000);
+    BddCourante.Vide();
 }

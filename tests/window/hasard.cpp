@@ -1,8 +1,9 @@
-// A user who clicks, types and answers at random, the same at every run: nothing breaks, nothing
-// stays on the screen that should not, and the drawing survives a save.
+// A user who clicks, types, pastes and answers at random, the same at every run: nothing breaks,
+// nothing stays on the screen that should not, and the drawing survives a save.
 
 #include <gdk/gdkkeysyms.h>
 #include <gtest/gtest.h>
+#include <gtkmm/clipboard.h>
 #include <gtkmm/entry.h>
 #include <gtkmm/filechooserdialog.h>
 #include <gtkmm/main.h>
@@ -11,6 +12,8 @@
 #include <set>
 
 #include "bureau.h"
+#include "commun/mutation.h"
+#include "commun/record.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "zone/etats.h"
@@ -46,11 +49,13 @@ class Utilisateur {
             Tape();
         else if (choix < 87)
             Lieu.Zone.queue_draw_area(x, y, Entre(1, 300), Entre(1, 300));
+        else if (choix < 88)
+            ChoisitAuMenuDroit(x, y);
         else if (choix < 92)
             Lieu.Zone.Entre(LigneDe(Entre(0, NOMBRE_ETATS - 1)).Premier);
         else
-            Entrees[static_cast<std::size_t>(Entre(0, static_cast<int>(Entrees.size()) - 1))]
-                ->activate();
+            Entrees[Rang(Entrees.size())]->activate();
+        if (Entre(0, 99) == 0) OffreUnDessin();
         if (Entre(0, 3) == 0) LaisseTourner();
         // A view that has been zoomed out of all proportion shows nothing more.
         if (EchelleCourante.Facteur > 1e4 || EchelleCourante.Facteur < 1e-4)
@@ -59,6 +64,10 @@ class Utilisateur {
 
   private:
     int Entre(int mini, int maxi) { return std::uniform_int_distribution<int>(mini, maxi)(Des); }
+
+    std::size_t Rang(std::size_t nombre) {
+        return static_cast<std::size_t>(Entre(0, static_cast<int>(nombre) - 1));
+    }
 
     void Tape() {
         static const unsigned touches[] = {
@@ -71,14 +80,32 @@ class Utilisateur {
             Lieu.Frappe(touche);
     }
 
+    void ChoisitAuMenuDroit(int x, int y) {
+        const auto entrees = Lieu.Souris.MenuDroit(x, y);
+        if (!entrees.empty()) entrees[Rang(entrees.size())]->activate();
+    }
+
+    /// What another program puts on the clipboard: a drawing, mostly a broken one.
+    void OffreUnDessin() {
+        auto texte = std::make_shared<std::string>(Entre(0, 3) ? Mute(Feuille, Fautes) : Feuille);
+        const std::vector<Gtk::TargetEntry> cibles = {Gtk::TargetEntry("krVekTarget")};
+        Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)
+            ->set(
+                cibles,
+                [texte](Gtk::SelectionData& donnees, guint) { donnees.set("krVekTarget", *texte); },
+                [] {});
+    }
+
     bool Repond() {
         for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
             auto* dialogue = dynamic_cast<Gtk::Dialog*>(fenetre);
             if (!dialogue || !dialogue->get_mapped()) continue;
             static const char* const saisies[] = {"", "12", "-7", "0", "1e400", "3,5", "abc"};
-            if (auto* saisie = PremierDe<Gtk::Entry>(*dialogue))
-                if (!dynamic_cast<Gtk::FileChooserDialog*>(dialogue))
-                    saisie->set_text(saisies[Entre(0, 6)]);
+            std::vector<Gtk::Entry*> champs;
+            Recolte(*dialogue, champs);
+            if (!dynamic_cast<Gtk::FileChooserDialog*>(dialogue))
+                for (Gtk::Entry* champ : champs)
+                    if (Entre(0, 2) == 0) champ->set_text(saisies[Entre(0, 6)]);
             const bool accepte =
                 Entre(0, 1) == 1 && !dynamic_cast<Gtk::FileChooserDialog*>(dialogue);
             dialogue->response(accepte ? Gtk::RESPONSE_OK : Gtk::RESPONSE_CANCEL);
@@ -88,6 +115,8 @@ class Utilisateur {
 
     Bureau& Lieu;
     std::mt19937 Des{20121010};
+    Hasard Fautes{7};
+    const std::string Feuille = Contenu(KRVEK_ESSAIS "/model/data/feuille.vek");
     std::vector<Gtk::MenuItem*> Entrees;
     sigc::connection Reponses;
 };

@@ -25,14 +25,6 @@
 
 namespace {
 
-template <class Type>
-void Recolte(Gtk::Widget& racine, std::vector<Type*>& trouves) {
-    if (auto* trouve = dynamic_cast<Type*>(&racine)) trouves.push_back(trouve);
-    if (auto* boite = dynamic_cast<Gtk::Container*>(&racine))
-        for (Gtk::Widget* enfant : boite->get_children())
-            Recolte(*enfant, trouves);
-}
-
 /// The fields in the order of the screen, the layer last.
 std::vector<Gtk::Entry*> Champs(Gtk::Dialog& dialogue) {
     std::vector<Gtk::Entry*> champs, calque;
@@ -92,21 +84,14 @@ void RepondBouton(Gtk::Dialog& dialogue, const Glib::ustring& libelle,
 
 /// Chooses the properties in the menu of a right click.
 void ChoisitProp(Banc& banc, double x, double y) {
-    banc.Souris.Presse(x, y, 3);
-    LaisseTourner();
     std::string noms;
     Gtk::MenuItem* prop = nullptr;
-    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-        std::vector<Gtk::MenuItem*> entrees;
-        if (fenetre->get_visible()) Recolte(*fenetre, entrees);
-        for (Gtk::MenuItem* entree : entrees) {
-            noms += NomAction(*entree) + " ";
-            if (NomAction(*entree) == "Prop") prop = entree;
-        }
+    for (Gtk::MenuItem* entree : banc.Souris.MenuDroit(x, y)) {
+        noms += NomAction(*entree) + " ";
+        if (NomAction(*entree) == "Prop") prop = entree;
     }
     EXPECT_EQ(noms, "Sup Prop Avant Arriere ");
     ASSERT_TRUE(prop);
-    PremierDe<Gtk::Menu>(*prop->get_toplevel())->popdown();
     prop->activate();
     LaisseTourner();
 }
@@ -177,6 +162,11 @@ TEST(Proprietes, ChaqueChampEtLuiSeul) {
     EXPECT_EQ(Distance3D(disque.Position, {1, 0, 3}), 0.0);
     EXPECT_NEAR(disque.AngleDebut, Pi / 2, 1e-12);
     EXPECT_EQ(disque.Ouverture, DeuxPi);
+
+    // What cannot be costs nothing else.
+    Repond(disque, {{3, "-4"}, {6, "2"}});
+    EXPECT_EQ(disque.Rayon, 10 * tiers);
+    EXPECT_EQ(disque.Calque, 2);
 
     EltTxt txt;
     txt.Texte = "é ø";
@@ -274,10 +264,18 @@ TEST(Proprietes, LesChampsDUnSegmentSeSuivent) {
     EXPECT_EQ(fin.Origine.z, 5.0);
     EXPECT_EQ(fin.Extremite.y, 1.0 / 7.0);
 
+    // The ends may meet while the fields are typed one after the other.
+    EltSegment plat({0, 0}, {10, 0}, 0);
+    Repond(plat, {{0, "10"}, {1, "5"}});
+    EXPECT_EQ(plat.Origine.x, 10.0);
+    EXPECT_EQ(plat.Origine.y, 5.0);
+    EXPECT_EQ(plat.Extremite.y, 0.0);
+
     EltDroite droite({0, 0}, {10, 10}, 0);
     EXPECT_EQ(Repond(droite, {{0, "5"}}),
               "Droite|Origine X=0|Y=0|Z=0|Extrémité X=10|Y=10|Z=0|Angle=45|0");
-    EXPECT_EQ(droite.Extremite.x, 15.0) << "the whole line moves";
+    EXPECT_EQ(droite.Origine.x, 5.0);
+    EXPECT_EQ(droite.Extremite.x, 10.0);
 
     EltRectangle rectangle({0, 10}, {20, 0}, 0);
     Repond(rectangle, {{4, "30"}});

@@ -226,14 +226,18 @@ TEST(Groupes, UnDeplacementNeDoublePasLeContenu) {
     contenu.AjouteFin(std::make_unique<EltArc>(PointVek(0, 0), 5.0, 0.0, DeuxPi, 0));
     BddCourante.CollerCommeBDD(contenu, {0, 0}, "g");
     const std::string avant = BddCourante.SauveTexte();
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 3; ++i) {
         banc.Zone.Entre(ETAT_MODIFIE);
         banc.Souris.ClicA({i * 20.0, 0});
         banc.Souris.ClicA({i * 20.0, 0});
         banc.Souris.ClicA({i * 20.0 + 20.0, 0});
     }
-    EXPECT_EQ(BddCourante.Elements.Premier()->Position.x, 80.0);
-    for (int i = 0; i < 4; ++i)
+    EltGeo* groupe = BddCourante.Elements.Premier();
+    EXPECT_EQ(groupe->Position.x, 60.0);
+    groupe->Place({0, 0});
+    EXPECT_EQ(BddCourante.SauveTexte(), avant) << "the stacking within stays as well";
+    groupe->Place({60, 0});
+    for (int i = 0; i < 3; ++i)
         BddCourante.Annule();
-    EXPECT_EQ(BddCourante.SauveTexte().size(), avant.size());
+    EXPECT_EQ(BddCourante.SauveTexte(), avant);
 }

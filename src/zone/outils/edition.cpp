@@ -11,15 +11,14 @@
 namespace {
 
 bool PrendPoignee(ZoneDessin& zone, const PointVek& p) {
-    zone.EltDeforme = zone.EltCourant->Clone();
-    zone.EltDeforme->DebutDeforme(p);
-    zone.PointDepart = zone.EltDeforme->PointProche(p);
+    zone.EltCourant->DebutDeforme(p);
+    zone.PointDepart = zone.EltCourant->PointProche(p);
     return true;
 }
 
-/// The copy brought to where a click at p would put it.
+/// A copy brought to where a click at p would put it.
 std::unique_ptr<EltGeo> Deplace(const ZoneDessin& zone, const PointVek& p) {
-    auto deforme = zone.EltDeforme->Clone();
+    auto deforme = zone.EltCourant->Clone();
     deforme->Deforme(p - zone.PointDepart);
     return deforme;
 }

@@ -1,0 +1,144 @@
+# Sourced by the scripts that draw: a virtual desk, the program on it, and what a hand does there with
+# the mouse and the keys.
+
+KRVEK=${KRVEK:-build/krvek}
+
+# ouvre_bureau DOSSIER: a virtual display with a window manager, and an empty home in the folder, so
+# that the program starts without preferences. Pictures go to the folder.
+ouvre_bureau() {
+    bureau=$1
+    rm -rf "$bureau"
+    mkdir -p "$bureau/home"
+    export HOME=$bureau/home XDG_CONFIG_HOME=$bureau/home XDG_DATA_HOME=$bureau/home NO_AT_BRIDGE=1
+    unset APPDATA
+    ouvre_ecran 1280x900
+    openbox > /dev/null 2>&1 &
+}
+
+# essaie COMMANDE...: repeats the command until it succeeds, for 20 seconds at most.
+essaie() {
+    local essai
+    for essai in $(seq 200); do
+        "$@" && return
+        sleep 0.1
+    done
+    echo "Waited in vain: $*" >&2
+    return 1
+}
+
+# trouve TITRE: answers the number of the window whose title holds the text.
+trouve() {
+    xdotool search --onlyvisible --name "$1" 2> /dev/null | tail -n 1 | grep .
+}
+
+est_active() {
+    [ "$(xdotool getactivewindow 2> /dev/null)" = "$1" ]
+}
+
+# attend TITRE: waits until the window of that title has the keys.
+attend() {
+    local numero
+    numero=$(essaie trouve "$1") || { echo "No window: $1" >&2; return 1; }
+    essaie est_active "$numero"
+    sleep 0.15
+}
+
+# revient: waits until the drawing has the keys again, behind a dialog.
+revient() {
+    essaie est_active "$fenetre"
+    sleep 0.1
+}
+
+# demarre [DESSIN]: starts the program and waits until its window stands.
+demarre() {
+    "$KRVEK" "$@" &
+    programme=$!
+    fenetre=$(essaie trouve "KR VEK 1") || { echo "The program did not start." >&2; return 1; }
+    essaie xdotool windowactivate "$fenetre" 2> /dev/null
+    revient
+    sleep 1
+}
+
+# quitte: ends the program as a user does.
+quitte() {
+    xdotool key ctrl+q
+    wait "$programme" || true
+}
+
+# photo NOM: takes a picture of the display.
+photo() {
+    sleep 0.5
+    import -window root -strip "$bureau/$1.png"
+}
+
+# va X Y: moves to a point of the display by two steps, as a hand would.
+va() {
+    xdotool mousemove "$(($1 - 7))" "$(($2 + 5))" sleep 0.03 mousemove "$1" "$2" sleep 0.03
+}
+
+# clic X Y: clicks at a point of the display.
+clic() {
+    va "$1" "$2"
+    xdotool click 1
+    sleep 0.08
+}
+
+# appuie TOUCHE FOIS
+appuie() {
+    [ "$2" -eq 0 ] || xdotool key --repeat "$2" --repeat-delay 20 "$1"
+    sleep 0.05
+}
+
+# menu RANG ENTREE: takes an entry of a menu of the bar, both counted from 0 without the separators.
+menu() {
+    xdotool mousemove 1240 860  # Where no menu opens under it.
+    xdotool key F10
+    sleep 0.15
+    appuie Right "$1"
+    appuie Down $(($2 + 1))
+    xdotool key Return
+    sleep 0.2
+}
+
+edition() { menu 1 "$1"; }
+creation() { menu 2 "$1"; }
+cote() { menu 3 "$1"; }
+option() { menu 5 "$1"; }
+
+# popup X Y ENTREE: takes an entry of the menu that the right button opens at a point of the display:
+# 0 Sup, 1 Propriétés, 2 Avant, 3 Arriere.
+popup() {
+    va "$1" "$2"
+    xdotool click 3
+    sleep 0.2
+    appuie Down $(($3 + 1))
+    xdotool key Return
+    sleep 0.2
+}
+
+# tape TEXTE
+tape() {
+    xdotool type --delay 15 "$1"
+}
+
+# remplit TITRE CHAMP...: fills the fields of the dialog of that title, from the first, and validates.
+# - leaves a field as it is.
+remplit() {
+    attend "$1"
+    shift
+    local champ premier=oui
+    for champ in "$@"; do
+        [ -n "$premier" ] || xdotool key Tab
+        premier=
+        [ "$champ" = - ] && continue
+        xdotool key ctrl+a
+        tape "$champ"
+    done
+    xdotool key Return
+    revient
+}
+
+# valide TITRE TEXTE: types the text into the only field of the dialog.
+valide() {
+    remplit "$1" "$2"
+}
