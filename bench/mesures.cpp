@@ -10,10 +10,10 @@
 #include <clocale>
 #include <cmath>
 #include <cstdio>
-#include <map>
 #include <vector>
 
 #include "dessinmesure.h"
+#include "ecran.h"
 #include "elements/angles.h"
 #include "elements/ecrivain.h"
 #include "elements/eltarc.h"
@@ -27,13 +27,6 @@
 #include "zone/zonedessin.h"
 
 namespace {
-
-const std::string& Fichier(int nombre) {
-    static std::map<int, std::string> fichiers;
-    std::string& nom = fichiers[nombre];
-    if (nom.empty()) nom = FichierMesure(nombre);
-    return nom;
-}
 
 /// Every number of a drawing's text, in order.
 std::vector<double> Nombres(const std::string& texte) {
@@ -54,7 +47,7 @@ std::vector<double> Nombres(const std::string& texte) {
 }
 
 void Ouverture(benchmark::State& etat) {
-    const std::string& nom = Fichier(static_cast<int>(etat.range(0)));
+    const std::string& nom = FichierMesure(static_cast<int>(etat.range(0)));
     for (auto _ : etat) {
         auto bdd = std::make_unique<BDDGeo>();
         bdd->Ouvre(nom);
@@ -65,7 +58,7 @@ void Ouverture(benchmark::State& etat) {
 }
 
 void OuverturePlancher(benchmark::State& etat) {
-    const std::string& nom = Fichier(static_cast<int>(etat.range(0)));
+    const std::string& nom = FichierMesure(static_cast<int>(etat.range(0)));
     for (auto _ : etat) {
         std::string texte;
         LitFichier(nom, texte);
@@ -75,14 +68,14 @@ void OuverturePlancher(benchmark::State& etat) {
 
 void Sauvegarde(benchmark::State& etat) {
     BDDGeo bdd;
-    bdd.Ouvre(Fichier(static_cast<int>(etat.range(0))));
+    bdd.Ouvre(FichierMesure(static_cast<int>(etat.range(0))));
     for (auto _ : etat)
         benchmark::DoNotOptimize(bdd.SauveTexte());
 }
 
 void SauvegardePlancher(benchmark::State& etat) {
     std::string texte;
-    LitFichier(Fichier(static_cast<int>(etat.range(0))), texte);
+    LitFichier(FichierMesure(static_cast<int>(etat.range(0))), texte);
     const std::vector<double> nombres = Nombres(texte);
     std::vector<char> tampon(nombres.size() * 16);
     for (auto _ : etat) {
@@ -93,59 +86,15 @@ void SauvegardePlancher(benchmark::State& etat) {
     }
 }
 
-/// The area in a window, on a drawing of nombre elements.
-struct Ecran {
-    explicit Ecran(int nombre) {
-        fenetre.set_default_size(1000, 800);
-        fenetre.add(zone);
-        fenetre.show_all();
-        BddCourante.Ouvre(Fichier(nombre));
-        EchelleCourante.ZoomInit();
-        Tourne();
-    }
-
-    ~Ecran() { BddCourante.Vide(); }
-
-    static void Tourne() {
-        while (Gtk::Main::events_pending())
-            Gtk::Main::iteration(false);
-        gdk_display_sync(gdk_display_get_default());
-    }
-
-    /// Shows a square of the side (drawing units) about the origin.
-    void Montre(double cote) {
-        EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2}, zone.Hauteur());
-    }
-
-    void Repeint() {
-        zone.Redessine();
-        zone.get_window()->process_updates(false);
-        gdk_display_sync(gdk_display_get_default());
-    }
-
-    void Bouge(double x, double y) {
-        GdkEvent evenement = {};
-        evenement.motion.type = GDK_MOTION_NOTIFY;
-        evenement.motion.window = zone.get_window()->gobj();
-        evenement.motion.x = x;
-        evenement.motion.y = y;
-        gtk_widget_event(GTK_WIDGET(zone.gobj()), &evenement);
-        gdk_display_sync(gdk_display_get_default());
-    }
-
-    Gtk::Window fenetre;
-    ZoneDessin zone;
-};
-
 void Repeinte(benchmark::State& etat) {
-    Ecran ecran(static_cast<int>(etat.range(0)));
+    Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     ecran.Montre(10200.0);
     for (auto _ : etat)
         ecran.Repeint();
 }
 
 void RepeinteCentieme(benchmark::State& etat) {
-    Ecran ecran(static_cast<int>(etat.range(0)));
+    Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     // One corner of the drawing, at the same scale.
     ecran.Montre(10200.0);
     EchelleCourante.Origine = PointVek(4000.0 + ecran.zone.Largeur() / 2 / EchelleCourante.Facteur,
@@ -204,7 +153,7 @@ std::vector<AireNue::Appel> AppelsDe(const BDDGeo& bdd) {
 void RepeintePlancher(benchmark::State& etat) {
     std::vector<AireNue::Appel> appels;
     {
-        Ecran ecran(static_cast<int>(etat.range(0)));
+        Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
         ecran.Montre(10200.0);
         appels = AppelsDe(BddCourante);
     }
@@ -224,7 +173,7 @@ void RepeintePlancher(benchmark::State& etat) {
 
 /// One motion of the segment tool, with or without the search for special points.
 void Motion(benchmark::State& etat, bool accrochage) {
-    Ecran ecran(static_cast<int>(etat.range(0)));
+    Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     ecran.Montre(10200.0);
     if (accrochage) ecran.zone.Bascule(&OptionsAccrochage::Actif);
     ecran.zone.Entre(ETAT_SEGMENT_2);
@@ -284,7 +233,7 @@ std::size_t MemoirePrise() {
 }
 
 void AfficheMemoire(int nombre) {
-    const std::string nom = Fichier(nombre);
+    const std::string nom = FichierMesure(nombre);
     BDDGeo bdd;
     const std::size_t avant = MemoirePrise();
     bdd.Ouvre(nom);
@@ -321,6 +270,15 @@ int main(int nombre, char** mots) {
                      "MotionAccrochage/100000", 12);
     rapports.Compare("10,000 undo records / 10,000 clones", "AnnulationDixMille", "ClonesDixMille",
                      3);
+    rapports.Temps("sheet of 100,000 opened and painted", "FeuilleOuverte/100000", 1200);
+    rapports.Temps("one motion with snapping, sheet of 100,000", "FeuilleMotion/100000", 4);
+    rapports.Temps("paste of 10,000", "Collage/10000", 100);
+    rapports.Temps("undo of that paste", "CollageAnnule/10000", 100);
+    rapports.Temps("cut of 10,000", "Coupe/10000", 100);
+    rapports.Temps("undo of that cut", "CoupeAnnulee/10000", 100);
+    rapports.Compare("paste of 1,000,000 / of 100,000", "Collage/1000000", "Collage/100000", 12);
+    rapports.Compare("cut of 1,000,000 / of 100,000", "Coupe/1000000", "Coupe/100000", 12);
+    rapports.Compare("repaint hatched / filled", "FeuilleHachuree/10000", "FeuillePleine/10000", 3);
     AfficheMemoire(100000);
     return 0;
 }

@@ -10,6 +10,7 @@ ouvre_bureau() {
     rm -rf "$bureau"
     mkdir -p "$bureau/home"
     export HOME=$bureau/home XDG_CONFIG_HOME=$bureau/home XDG_DATA_HOME=$bureau/home NO_AT_BRIDGE=1
+    export LC_ALL=C.UTF-8  # For the accents that are typed.
     unset APPDATA
     ouvre_ecran 1280x900
     openbox > /dev/null 2>&1 &
@@ -116,9 +117,22 @@ popup() {
     sleep 0.2
 }
 
-# tape TEXTE
+# tape TEXTE: types it. The capitals that no key of the keyboard bears take Shift by themselves.
 tape() {
-    xdotool type --delay 15 "$1"
+    local texte=$1 debut capitale
+    while [ -n "$texte" ]; do
+        debut=${texte%%[ÀÉØ]*}
+        [ -z "$debut" ] || xdotool type --delay 15 "$debut"
+        texte=${texte#"$debut"}
+        case $texte in
+            À*) capitale=Agrave ;;
+            É*) capitale=Eacute ;;
+            Ø*) capitale=Oslash ;;
+            *) break ;;
+        esac
+        xdotool key "shift+$capitale"
+        texte=${texte#?}
+    done
 }
 
 # remplit TITRE CHAMP...: fills the fields of the dialog of that title, from the first, and validates.

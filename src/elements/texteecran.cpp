@@ -10,6 +10,10 @@ namespace {
 /// More than this many characters reach beyond any screen.
 constexpr std::size_t CaracteresMax = 4000;
 
+/// Above this size the pictures of letters, most of them outside the view, cost more than filling
+/// their outlines within it.
+constexpr double TailleContours = 400.0;
+
 /// The one layout of the program, on the fonts of the screen at 96 dots an inch whatever the
 /// desktop says, so that a drawing looks the same everywhere.
 PangoLayout* MiseEnPage() {
@@ -40,7 +44,8 @@ void RegleMiseEnPage(const TexteEcran& texte) {
 
 }  // namespace
 
-TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte) : Angle(texte.Angle) {
+TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte)
+    : Angle(texte.Angle), EnContours(texte.Taille > TailleContours) {
     RegleMiseEnPage(texte);
     int w = 0, h = 0;
     pango_layout_get_pixel_size(MiseEnPage(), &w, &h);
@@ -65,6 +70,11 @@ void TexteMisEnPage::Peint(const Glib::RefPtr<Gdk::Drawable>& surface,
     gdk_cairo_set_source_color(cr, couleur.gobj());
     cairo_translate(cr, Depart.x, Depart.y);
     cairo_rotate(cr, -Angle);
-    pango_cairo_show_layout(cr, MiseEnPage());
+    if (EnContours) {
+        pango_cairo_layout_path(cr, MiseEnPage());
+        cairo_fill(cr);
+    } else {
+        pango_cairo_show_layout(cr, MiseEnPage());
+    }
     cairo_destroy(cr);
 }

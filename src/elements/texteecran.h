@@ -33,6 +33,7 @@ class TexteMisEnPage {
 
   private:
     double Angle;
+    bool EnContours;
     PointVek Depart;  ///< Upper left corner of the unturned text.
     Boite CadreTourne;
 };

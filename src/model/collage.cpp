@@ -1,6 +1,6 @@
 // Cut, copy, paste and groups: what the drawing does with its clipboard.
 
-#include <unordered_set>
+#include <vector>
 
 #include "elements/eltrectangle.h"
 #include "model/bddgeo.h"
@@ -15,18 +15,23 @@ const EltBDD* BDDGeo::ChercheBDD(const Glib::ustring& identificateur) const {
 
 void BDDGeo::CopieZone(const EltRectangle& zone, bool couper) {
     PressePapier.Vide();
-    std::unordered_set<const EltGeo*> coupes;
+    std::vector<const EltGeo*> coupes;  // In the order of the list.
     const PointVek coin = zone.Coins().HautGauche;
     for (const EltGeo* elt : Elements) {
         if (!EstVisible(*elt) || elt->Type == TypeBDD || !zone.Contient(*elt)) continue;
         auto clone = elt->Clone();
         clone->Deplace(-coin);
         PressePapier.AjouteDebut(std::move(clone));
-        if (couper && elt->NbParents == 0) coupes.insert(elt);
+        if (couper && elt->NbParents == 0) coupes.push_back(elt);
     }
     if (!couper) return;
+    auto prochain = coupes.begin();
     Elements.RetireSi(
-        [&](const EltGeo& elt) { return coupes.count(&elt) > 0; },
+        [&](const EltGeo& elt) {
+            if (prochain == coupes.end() || *prochain != &elt) return false;
+            ++prochain;
+            return true;
+        },
         [&](EltGeo* elt) {
             Retrait.emit(elt);
             // It keeps its children for the day it comes back, but holds them no more.

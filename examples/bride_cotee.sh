@@ -1,0 +1,308 @@
+#!/usr/bin/env bash
+# examples/bride_cotee.sh [DRAWING]: draws the sheet of a flange on a virtual display with real mouse
+# and key events, and saves it; under build/bride_cotee/ when no name is given. Pictures of the window
+# are left there too. The program has to be built: ./run.sh does it.
+set -euo pipefail
+dessin=$(realpath -m "${1:-$(dirname "$0")/../build/bride_cotee/bride_cotee.vek}")
+cd "$(dirname "$0")/.."
+. scripts/paquets.sh
+. scripts/gestes.sh
+
+# cherche_origine: finds where on the display the origin of the drawing is, by the mark that a grid of
+# long step leaves there alone.
+cherche_origine() {
+    xdotool mousemove 1240 860
+    xdotool key g
+    appuie p 7
+    sleep 0.5
+    local marque
+    marque=$(import -window root -depth 8 -crop 400x400+440+280 txt:- | grep -i '#000000' | head -n 1) ||
+        { echo "The origin of the drawing is not to be seen." >&2; return 1; }
+    # A mark of four pixels, whose second row and column the origin is.
+    ox=$((440 + ${marque%%,*} + 1))
+    marque=${marque#*,}
+    oy=$((280 + ${marque%%:*} + 1))
+}
+
+# vue X Y: the coordinates that follow are those of the view whose centre is there, in drawing units.
+vue() {
+    vx=$1 vy=$2
+}
+
+# There are two pixels to the unit.
+en_x() { echo $((ox + 2 * (vx + $1))); }
+en_y() { echo $((oy - 2 * (vy + $1))); }
+
+# pts X Y...: clicks at points of the view.
+pts() {
+    while [ $# -gt 0 ]; do
+        clic "$(en_x "$1")" "$(en_y "$2")"
+        shift 2
+    done
+}
+
+# sur X Y ENTREE: takes an entry of the menu of the element at that point.
+sur() {
+    popup "$(en_x "$1")" "$(en_y "$2")" "$3"
+}
+
+# couleur CODE: the colour of the next elements.
+couleur() {
+    option 9
+    attend "Couleur"
+    xdotool key alt+n key ctrl+a
+    tape "$1"
+    xdotool key Tab sleep 0.1 key Return
+    revient
+}
+
+# trait EPAISSEUR LIGNE SURFACE: the style of the next elements. LIGNE is continu or axe, SURFACE vide
+# or hachuree. The dialog opens on the style before, which is kept here to know how many times the keys
+# are to be pressed.
+ligne_courante=continu
+surface_courante=vide
+trait() {
+    option 10
+    attend "Style du trait courant"
+    xdotool key ctrl+a
+    tape "$1"
+    xdotool key Tab key ctrl+a
+    tape 45
+    xdotool key Tab key ctrl+a
+    tape 10
+    xdotool key Tab
+    # From Continu to Axe there are two buttons, and two more lead back round.
+    [ "$2" = "$ligne_courante" ] || appuie Right 2
+    ligne_courante=$2
+    if [ "$3" != "$surface_courante" ]; then
+        xdotool key --delay 40 Tab space Tab space Tab space  # Remplissage, Contour, Hachure.
+        surface_courante=$3
+    fi
+    xdotool key Return
+    revient
+}
+
+# texte X Y TAILLE MOTS
+texte() {
+    creation 3
+    remplit "Texte :" "$4" - "$3"
+    pts "$1" "$2"
+}
+
+# entoure X Y AVANT [APRES]: puts words before and behind the value of the dimension whose text is
+# there.
+entoure() {
+    sur "$1" "$2" 1
+    attend "Propriété de la cote"
+    xdotool key --delay 30 Tab Tab Tab Home
+    tape "$3"
+    if [ -n "${4:-}" ]; then
+        xdotool key End
+        tape "$4"
+    fi
+    xdotool key Return
+    revient
+}
+
+pas_de_grille() {
+    option 3
+    valide "pas de la grille" "$1"
+}
+
+feuille() { vue 0 0; }
+face() { vue -125 40; }    # The flange as its hub shows it, about its axis.
+coupe() { vue 120 40; }    # The section, about the axis in the plane of its left end.
+noir='#000000' rouge='#b03030' bleu='#1f4e9e' gris='#8c8c8c'
+
+ouvre_bureau "$PWD/build/bride_cotee"
+mkdir -p "$(dirname "$dessin")"
+rm -f "$dessin"
+demarre
+cherche_origine
+xdotool key o  # Two pixels to the unit.
+pas_de_grille 5
+option 12  # Préférences Cotes
+remplit "Préférences Texte" - 5
+option 11  # Préférences Textes
+remplit "Préférences Texte" - - 5
+
+# The frame, and the ends of the cutting plane.
+trait 3 continu vide
+creation 18  # Rectangle
+feuille
+pts -300 185 300 -185
+creation 0  # Segment
+pas_de_grille 1
+face
+pts 0 118 0 130 0 -118 0 -130
+
+# The axis lines.
+couleur "$rouge"
+trait 1 axe vide
+creation 1  # Cercle
+pts 0 0 75 0
+creation 0  # Segment
+pts 40 -40 76 -76  # The hole's own.
+pts -55 0 55 0 0 -55 0 55
+coupe
+pts -10 0 75 0 -8 75 33 75
+
+# What is seen.
+couleur "$noir"
+trait 2 continu vide
+creation 1  # Cercle
+face
+pts 0 0 100 0 0 0 45 0 0 0 25 0
+creation 17  # Cercle Rayon: the tapped hole, where its axes cross
+valide "Rayon" 8
+option 5  # Point Particulier
+pts 54 -53
+option 5
+creation 18  # Rectangle
+feuille
+pts 120 -130 300 -185
+pts -300 -100 -135 -185
+coupe
+pts 0 100 25 83
+creation 0  # Segment
+pts 0 83 0 67 25 83 25 67            # The hole's ends
+pts 0 25 0 67 0 67 25 67 25 67 25 55 # The plate
+pts 35 45 60 45 65 40 65 25 65 25 0 25 # The hub and the bore
+pts 0 25 0 -25 65 25 65 -25
+face
+pts -22 124 0 124 -7 128 0 124 -7 120 0 124
+pts -22 -124 0 -124 -7 -128 0 -124 -7 -120 0 -124
+creation 16  # Arc Rayon Tgt 2 Elements
+coupe
+valide "Rayon" 10
+pts 25 61 48 45 33 53
+creation 16
+valide "Rayon" 5
+pts 48 45 65 32 58 38
+
+# The thread, and the lines of the title block.
+trait 1 continu vide
+creation 0  # Segment
+pts 0 65 25 65 0 85 25 85
+feuille
+pts 120 -150 300 -150 120 -168 300 -168 215 -150 215 -185
+creation 17  # Cercle Rayon
+face
+valide "Rayon" 10
+option 5
+pts 54 -53
+option 5
+sur 63 -53 1
+remplit "Propriété du cercle" - - - - 45 270
+
+# The hole becomes a group, about the axis of the flange, and is shown four times, turned.
+edition 3  # Sélection
+pts 0 0 100 -100
+edition 7  # Couper Vek
+edition 4  # Annuler Sélection
+edition 10  # Coller Comme BDD
+feuille
+pts -295 -103
+valide "Identificateur" TROU
+couleur "$rouge"
+creation 21  # Image de BDD
+valide "Identificateur de la BDD" TROU
+face
+for angle in 45 135 225 315; do
+    pts 0 0
+    sur 0 0 1
+    remplit "Image de bdd" - - - - "$angle"
+done
+photo 1-vue-de-face
+
+# The hatch of the upper half, which a mirrored copy makes the lower one.
+couleur "$gris"
+trait 1 continu hachuree
+creation 18  # Rectangle
+coupe
+pts 0 100 25 83
+creation 20  # Profil sur éléments
+pts 12 50 0 25
+pts 0 45 12 67 25 61 28 48 48 45 64 44 65 32 32 25
+xdotool key End
+edition 3  # Sélection
+pts -15 105 80 5
+edition 6  # Copier Vek
+edition 4  # Annuler Sélection
+xdotool key x  # Symétrie X
+sleep 0.3
+pts -15 -105
+xdotool key x key Escape
+photo 2-coupe
+
+# The dimensions.
+couleur "$bleu"
+trait 1 continu vide
+cote 1  # Verticale
+pts 0 65 0 85 -18 75
+pts 60 -45 60 45 85 0
+pts 25 -100 25 100 105 0
+cote 2  # Horizontale
+pts 0 -100 25 -100 12 -114
+pts 0 -100 65 -40 32 -130
+cote 6  # Rayon
+pts 60 40 60 45 66 64
+cote 7  # Rayon Arc
+pts 28 -48 24 -11
+cote 0  # Cote
+face
+pts -75 0 0 75 -80 80
+cote 3  # Angle
+pts 110 0 0 110 115 0 0 115
+cote 4  # Diamètre
+pts -15 -20 15 20 -29 50
+cote 5  # Diamètre Arc
+pts -60 45 41 71
+entoure -29 50 Ø
+entoure 41 71 Ø
+entoure -80 80 '(' ')'
+coupe
+entoure 85 0 Ø
+entoure 105 0 Ø
+entoure -18 75 '4 x M'
+entoure 66 64 R
+entoure 24 -11 R
+# Over the hatch.
+sur 66 64 2
+sur 24 -11 2
+photo 3-cotes
+
+# The words.
+couleur "$noir"
+face
+texte -37 118 8 A
+texte -37 -130 8 A
+coupe
+texte 0 112 7 'COUPE A-A'
+feuille
+texte 128 -147 9 'BRIDE À 4 TROUS'
+texte 126 -164 5 'Matière : S235'
+texte 221 -164 5 'Échelle 1:1'
+texte 126 -181 5 'Cotes en mm'
+texte 221 -181 5 'Folio 1 / 1'
+texte -228 -122 5 'Trou taraudé M20,'
+texte -228 -134 5 'débouchant,'
+texte -228 -146 5 'à 45°, 135°,'
+texte -214 -158 5 '225° et 315°'
+texte -118 -152 5 'Tolérances générales ISO 2768-mK'
+texte -118 -164 5 'Rugosité générale Ra 3,2'
+texte -118 -176 5 'Casser les angles vifs'
+
+xdotool key Escape key g  # The grid hidden.
+xdotool mousemove 1240 860
+xdotool key ctrl+s
+valide "enregistrer" "$dessin"
+photo 4-feuille
+quitte
+
+[ -s "$dessin" ] || { echo "The drawing was not saved." >&2; exit 1; }
+demarre "$dessin"
+photo 5-rouverte
+quitte
+echo "The drawing and the pictures of the window:"
+ls "$dessin" "$bureau"/*.png
