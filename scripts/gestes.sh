@@ -14,6 +14,13 @@ ouvre_bureau() {
     unset APPDATA
     ouvre_ecran 1280x900
     openbox > /dev/null 2>&1 &
+    sleep 0.3
+    essaie a_gestionnaire
+}
+
+# A window shown while the window manager starts may stay out of sight.
+a_gestionnaire() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2> /dev/null | grep -q 'window id'
 }
 
 # essaie COMMANDE...: repeats the command until it succeeds, for 20 seconds at most.

@@ -7,6 +7,7 @@
 
 #include "elements/angles.h"
 #include "elements/tuile.h"
+#include "elements/vue.h"
 
 namespace {
 
@@ -157,7 +158,21 @@ void Trace::AppliqueTuile(const Trait& trait) {
         TraitTuile = trait;
         Contexte->set_tile(TuilePosee);
     }
+    AncreTuile();
     if (!posee || !Tuilage) Contexte->set_fill(Gdk::TILED);
+}
+
+void Trace::AncreTuile() {
+    int largeur = 0, hauteur = 0;
+    TuilePosee->get_size(largeur, hauteur);
+    // The hatch moves with the drawing.
+    const PointVek origine = vue::VersEcran({0.0, 0.0});
+    if (!origine.EstFini()) return;
+    const std::pair<int, int> ancre(Pixels(std::fmod(origine.x, largeur)),
+                                    Pixels(std::fmod(origine.y, hauteur)));
+    if (ancre == AncrePosee) return;
+    Contexte->set_ts_origin(ancre.first, ancre.second);
+    AncrePosee = ancre;
 }
 
 Gdk::Color Trace::Visible(const Gdk::Color& couleur) const {

@@ -81,6 +81,7 @@ class Trace {
     void AppliqueCouleur(const Gdk::Color& couleur);
     void AppliqueLigne(int epaisseur, int styleLigne);
     void AppliqueTuile(const Trait& trait);
+    void AncreTuile();
     guint32 Pixel(const Gdk::Color& couleur) const;
 
     /// A line whose dashes have already run over phase pixels.
@@ -116,6 +117,7 @@ class Trace {
     bool Tuilage = false;
     Glib::RefPtr<Gdk::Pixmap> TuilePosee;
     Trait TraitTuile;
+    std::pair<int, int> AncrePosee;  ///< Where the tile starts; the context's own is 0, 0.
     std::set<std::pair<int, int>> PoigneesPeintes;
     int ContenusPeints = 0;
 };

@@ -285,3 +285,20 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
     });
     Compare(image, [](int x, int y) { return Si(x < 59 && 80 - y == x + 101); });
 }
+
+TEST(Trace, LaHachureSuitLaVue) {
+    EltDisque disque(Secteur(40, 0, DeuxPi));
+    disque.Style = Styles()[4];
+    const Toile fixe, glissee;
+    Trace avant = fixe.Pinceau();
+    disque.Dessine(avant);
+    EchelleCourante.Origine = {-3, 5};
+    Trace apres = glissee.Pinceau();
+    disque.Dessine(apres);
+    const Image a = fixe.Lit(), b = glissee.Lit();
+    int autres = 0;
+    for (int y = 20; y < 140; ++y)
+        for (int x = 20; x < 180; ++x)
+            autres += Vu(a, x, y) != Vu(b, x + 3, y + 5);
+    EXPECT_EQ(autres, 0);
+}
