@@ -50,9 +50,9 @@ sur() {
 couleur() {
     option 9
     attend "Couleur"
-    xdotool key alt+n key ctrl+a
+    xdotool key --delay 40 alt+n ctrl+a
     tape "$1"
-    xdotool key Tab sleep 0.1 key Return
+    xdotool key --delay 40 Return Tab Tab Return  # Past Annuler to Valider.
     revient
 }
 
@@ -111,9 +111,12 @@ pas_de_grille() {
 
 feuille() { vue 0 0; }
 face() { vue -125 40; }    # The flange as its hub shows it, about its axis.
-coupe() { vue 120 40; }    # The section, about the axis in the plane of its left end.
+coupe() { vue 105 40; }    # The section, about the axis in the plane of its left end.
 noir='#000000' rouge='#b03030' bleu='#1f4e9e' gris='#8c8c8c'
 
+[ -x "$KRVEK" ] || { echo "The program is not built: ./run.sh does it." >&2; exit 1; }
+# shellcheck disable=SC2086
+installe $PAQUETS_DEMO
 ouvre_bureau "$PWD/build/bride_cotee"
 mkdir -p "$(dirname "$dessin")"
 rm -f "$dessin"
@@ -152,47 +155,48 @@ couleur "$noir"
 trait 2 continu vide
 creation 1  # Cercle
 face
-pts 0 0 100 0 0 0 45 0 0 0 25 0
+pts 0 0 100 0 0 0 45 0 0 0 35 0 0 0 25 0
 creation 17  # Cercle Rayon: the tapped hole, where its axes cross
-valide "Rayon" 8
+valide "Rayon" 10
 option 5  # Point Particulier
 pts 54 -53
 option 5
 creation 18  # Rectangle
 feuille
 pts 120 -130 300 -185
-pts -300 -100 -135 -185
+pts -300 -100 -130 -185
 coupe
-pts 0 100 25 83
+pts 0 100 25 85
 creation 0  # Segment
-pts 0 83 0 67 25 83 25 67            # The hole's ends
-pts 0 25 0 67 0 67 25 67 25 67 25 55 # The plate
-pts 35 45 60 45 65 40 65 25 65 25 0 25 # The hub and the bore
-pts 0 25 0 -25 65 25 65 -25
+pts 0 85 0 65 25 85 25 65            # The hole's ends
+pts 0 25 0 65 0 65 25 65 25 65 25 55 # The plate
+pts 35 45 60 45 65 40 65 35            # The hub
+pts 65 35 55 25 55 25 0 25             # The chamfer and the bore
+pts 0 25 0 -25 55 25 55 -25 65 35 65 -35
 face
 pts -22 124 0 124 -7 128 0 124 -7 120 0 124
 pts -22 -124 0 -124 -7 -128 0 -124 -7 -120 0 -124
 creation 16  # Arc Rayon Tgt 2 Elements
 coupe
 valide "Rayon" 10
-pts 25 61 48 45 33 53
+pts 25 60 48 45 33 53
 creation 16
 valide "Rayon" 5
-pts 48 45 65 32 58 38
+pts 48 45 65 37 58 38
 
 # The thread, and the lines of the title block.
 trait 1 continu vide
 creation 0  # Segment
-pts 0 65 25 65 0 85 25 85
+pts 0 63 25 63 0 87 25 87
 feuille
 pts 120 -150 300 -150 120 -168 300 -168 215 -150 215 -185
 creation 17  # Cercle Rayon
 face
-valide "Rayon" 10
+valide "Rayon" 12
 option 5
 pts 54 -53
 option 5
-sur 63 -53 1
+sur 65 -53 1
 remplit "Propriété du cercle" - - - - 45 270
 
 # The hole becomes a group, about the axis of the flange, and is shown four times, turned.
@@ -202,7 +206,7 @@ edition 7  # Couper Vek
 edition 4  # Annuler Sélection
 edition 10  # Coller Comme BDD
 feuille
-pts -295 -103
+pts -292 -106
 valide "Identificateur" TROU
 couleur "$rouge"
 creation 21  # Image de BDD
@@ -220,10 +224,10 @@ couleur "$gris"
 trait 1 continu hachuree
 creation 18  # Rectangle
 coupe
-pts 0 100 25 83
+pts 0 100 25 85
 creation 20  # Profil sur éléments
 pts 12 50 0 25
-pts 0 45 12 67 25 61 28 48 48 45 64 44 65 32 32 25
+pts 0 45 12 65 25 60 28 48 48 45 64 44 65 37 60 30 32 25
 xdotool key End
 edition 3  # Sélection
 pts -15 105 80 5
@@ -239,32 +243,33 @@ photo 2-coupe
 couleur "$bleu"
 trait 1 continu vide
 cote 1  # Verticale
-pts 0 65 0 85 -18 75
-pts 60 -45 60 45 85 0
-pts 25 -100 25 100 105 0
+pts 0 63 0 87 -18 75
+pts 60 -45 60 45 100 0
+pts 25 -100 25 100 120 0
 cote 2  # Horizontale
 pts 0 -100 25 -100 12 -114
 pts 0 -100 65 -40 32 -130
 cote 6  # Rayon
-pts 60 40 60 45 66 64
+pts 60 45 60 40 66 64  # The dimension is drawn from its second point
 cote 7  # Rayon Arc
 pts 28 -48 24 -11
+cote 3  # Angle
+pts 55 25 55 25 79 25 72 42
 cote 0  # Cote
 face
 pts -75 0 0 75 -80 80
-cote 3  # Angle
-pts 110 0 0 110 115 0 0 115
 cote 4  # Diamètre
 pts -15 -20 15 20 -29 50
 cote 5  # Diamètre Arc
-pts -60 45 41 71
+pts -60 45 41 71 -21 28 -53 31
 entoure -29 50 Ø
 entoure 41 71 Ø
+entoure -53 31 Ø
 entoure -80 80 '(' ')'
 coupe
-entoure 85 0 Ø
-entoure 105 0 Ø
-entoure -18 75 '4 x M'
+entoure 100 0 Ø
+entoure 120 0 Ø
+entoure -18 75 M
 entoure 66 64 R
 entoure 24 -11 R
 # Over the hatch.
@@ -285,16 +290,15 @@ texte 126 -164 5 'Matière : S235'
 texte 221 -164 5 'Échelle 1:1'
 texte 126 -181 5 'Cotes en mm'
 texte 221 -181 5 'Folio 1 / 1'
-texte -228 -122 5 'Trou taraudé M20,'
-texte -228 -134 5 'débouchant,'
-texte -228 -146 5 'à 45°, 135°,'
-texte -214 -158 5 '225° et 315°'
-texte -118 -152 5 'Tolérances générales ISO 2768-mK'
-texte -118 -164 5 'Rugosité générale Ra 3,2'
-texte -118 -176 5 'Casser les angles vifs'
+texte -206 -124 5 '4 trous M24 : le'
+texte -206 -136 5 'groupe TROU, à'
+texte -206 -148 5 '45°, 135°, 225°'
+texte -206 -160 5 'et 315°'
+texte -112 -152 5 'Tolérances générales ISO 2768-mK'
+texte -112 -164 5 'Rugosité générale Ra 3,2'
+texte -112 -176 5 'Casser les angles vifs'
 
 xdotool key Escape key g  # The grid hidden.
-xdotool mousemove 1240 860
 xdotool key ctrl+s
 valide "enregistrer" "$dessin"
 photo 4-feuille
@@ -302,6 +306,7 @@ quitte
 
 [ -s "$dessin" ] || { echo "The drawing was not saved." >&2; exit 1; }
 demarre "$dessin"
+xdotool mousemove 760 470
 photo 5-rouverte
 quitte
 echo "The drawing and the pictures of the window:"

@@ -124,21 +124,18 @@ popup() {
     sleep 0.2
 }
 
-# tape TEXTE: types it. The capitals that no key of the keyboard bears take Shift by themselves.
+# tape TEXTE: types it. What no key of the keyboard bears is given by its number, after Ctrl+Shift+U.
 tape() {
-    local texte=$1 debut capitale
+    local texte=$1 debut lettre
     while [ -n "$texte" ]; do
-        debut=${texte%%[ÀÉØ]*}
+        debut=${texte%%[! -~]*}
         [ -z "$debut" ] || xdotool type --delay 15 "$debut"
         texte=${texte#"$debut"}
-        case $texte in
-            À*) capitale=Agrave ;;
-            É*) capitale=Eacute ;;
-            Ø*) capitale=Oslash ;;
-            *) break ;;
-        esac
-        xdotool key "shift+$capitale"
-        texte=${texte#?}
+        [ -n "$texte" ] || break
+        lettre=${texte:0:1}
+        xdotool key --delay 20 ctrl+shift+u type --delay 20 "$(printf '%x' "'$lettre")"
+        xdotool key --delay 20 space
+        texte=${texte:1}
     done
 }
 
