@@ -44,6 +44,11 @@ SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true
     add_button("Valider", Gtk::RESPONSE_OK);
     add_button("Annuler", Gtk::RESPONSE_CANCEL);
     set_default_response(Gtk::RESPONSE_OK);
+    // The title is the question: the title bar has to hold it beside its buttons.
+    constexpr int boutons = 120;
+    int largeur = 0, hauteur = 0;
+    create_pango_layout(titre)->get_pixel_size(largeur, hauteur);
+    get_vbox()->set_size_request(largeur + boutons, -1);
 }
 
 void SaisieDialog::Branche(ChampSaisie& champ) {
@@ -51,8 +56,7 @@ void SaisieDialog::Branche(ChampSaisie& champ) {
 }
 
 void SaisieDialog::AjouteLigne(ChampSaisie& champ) {
-    // The title is the question: the title bar has to hold it beside its buttons.
-    champ.set_width_chars(std::max<int>(24, static_cast<int>(get_title().length()) + 8));
+    champ.set_width_chars(24);
     Branche(champ);
     get_vbox()->pack_start(champ, Gtk::PACK_SHRINK);
     champ.show();

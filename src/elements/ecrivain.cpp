@@ -9,7 +9,8 @@ constexpr std::size_t TailleNombre = 32;
 
 /// Writes the number into the buffer and answers its end.
 char* Chiffre(char (&chiffres)[TailleNombre], double valeur) {
-    const double fini = std::isfinite(valeur) ? valeur : 0.0;
+    // No sign on a zero.
+    const double fini = std::isfinite(valeur) ? valeur + 0.0 : 0.0;
     return std::to_chars(chiffres, chiffres + TailleNombre, fini, std::chars_format::general, 6)
         .ptr;
 }

@@ -20,7 +20,6 @@ bool EstNombreDecimales(int nombre) {
 namespace {
 
 /// Length in pixels of an arrow, and how far its barbs reach from its tip.
-constexpr double LongueurFleche = 8.0;
 constexpr double PorteeFleche = 12.0;
 
 constexpr double RayonPoignee = 5.0;
@@ -50,7 +49,7 @@ std::string DouzeChiffres(double valeur) {
 void DessineFleche(Trace& trace, const PointVek& pointe, const PointVek& direction) {
     const double longueur = ::Distance({}, direction);
     if (!(longueur > 0.0)) return;
-    const PointVek u = direction * (LongueurFleche / longueur);
+    const PointVek u = direction * (trace.LongueurFleche() / longueur);
     trace.Segment(pointe, pointe + u + Normale(u));
     trace.Segment(pointe, pointe + u - Normale(u));
 }

@@ -2,12 +2,13 @@
 
 #include "elements/eltgeo.h"
 
-/// A marker: the base element under its own type.
+/// A marker: the base element under its own type. On paper it is a dot.
 class EltPoint : public EltGeo {
   public:
     EltPoint() : EltGeo(TypePoint) {}
     EltPoint(const EltPoint&) = default;
 
-    std::unique_ptr<EltGeo> Clone() const override { return std::make_unique<EltPoint>(*this); }
-    Minorant MinorantDistance() const override { return Minorant::Point(Position, 0.0); }
+    std::unique_ptr<EltGeo> Clone() const override;
+    void Dessine(Trace& trace) const override;
+    Minorant MinorantDistance() const override;
 };

@@ -20,8 +20,8 @@ std::unique_ptr<EltGeo> EltRectangle::Clone() const {
     return std::make_unique<EltRectangle>(*this);
 }
 
-/// Inside a turned image: the polygon of the turned corners.
-void EltRectangle::DessineTourne(Trace& trace) const {
+/// Where nothing is rounded to pixels: the polygon of the corners.
+void EltRectangle::DessinePolygone(Trace& trace) const {
     const CoinsOrdonnes coins = Coins();
     const PointVek a = vue::VersEcran(coins.HautGauche), b = vue::VersEcran(coins.HautDroite());
     const PointVek c = vue::VersEcran(coins.BasDroite), d = vue::VersEcran(coins.BasGauche());
@@ -41,8 +41,8 @@ void EltRectangle::DessineTourne(Trace& trace) const {
 }
 
 void EltRectangle::Dessine(Trace& trace) const {
-    if (vue::Rotation() != 0.0) {
-        DessineTourne(trace);
+    if (vue::Rotation() != 0.0 || trace.SurPapier()) {
+        DessinePolygone(trace);
         return;
     }
     const CoinsOrdonnes coins = Coins();

@@ -46,5 +46,5 @@ class EltRectangle : public EltSegment {
     bool Contient(const EltGeo& elt) const;
 
   private:
-    void DessineTourne(Trace& trace) const;
+    void DessinePolygone(Trace& trace) const;
 };

@@ -6,7 +6,10 @@
 
 #include "elements/boite.h"
 
-/// A line of text on the screen. Lengths are pixels, y downward.
+typedef struct _PangoLayout PangoLayout;
+typedef struct _cairo cairo_t;
+
+/// A line of text on the screen or the page. Lengths are pixels or page units, y downward.
 struct TexteEcran {
     Glib::ustring Texte;
     Glib::ustring Police;  ///< A font description.
@@ -24,16 +27,27 @@ struct TexteEcran {
 /// The text laid out: asks the text system once, then paints where it is wanted.
 class TexteMisEnPage {
   public:
+    /// For the screen, on whole pixels.
     explicit TexteMisEnPage(const TexteEcran& texte);
+
+    /// For the page, with a layout of its context, which is the caller's and outlives this.
+    TexteMisEnPage(const TexteEcran& texte, PangoLayout* mise);
 
     /// A box that holds the turned text.
     const Boite& Cadre() const { return CadreTourne; }
 
     void Peint(const Glib::RefPtr<Gdk::Drawable>& surface, const Gdk::Color& couleur) const;
 
+    /// With the context's present source.
+    void Peint(cairo_t* cr) const;
+
   private:
+    /// Where the text stands that is w wide and h high.
+    void Dispose(const TexteEcran& texte, double w, double h);
+
+    PangoLayout* Mise;
     double Angle;
-    bool EnContours;
+    bool EnContours;  ///< Painted as filled outlines, and not letter by letter.
     PointVek Depart;  ///< Upper left corner of the unturned text.
     Boite CadreTourne;
 };

@@ -1,4 +1,4 @@
-#include "elements/trace.h"
+#include "elements/traceecran.h"
 
 #include <gdk/gdk.h>
 
@@ -56,34 +56,30 @@ struct Carre {
 
 }  // namespace
 
-Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur)
-    : Support(surface),
+TraceEcran::TraceEcran(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur)
+    : Trace(Boite{0.0, 0.0, static_cast<double>(largeur), static_cast<double>(hauteur)}),
+      Support(surface),
       Contexte(Gdk::GC::create(surface)),
-      Aire{0.0, 0.0, static_cast<double>(largeur), static_cast<double>(hauteur)},
-      Zone(Aire) {}
+      Aire(Zone) {}
 
-Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
-             const Gdk::Rectangle& exposee)
-    : Trace(surface, largeur, hauteur) {
+TraceEcran::TraceEcran(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+                       const Gdk::Rectangle& exposee)
+    : TraceEcran(surface, largeur, hauteur) {
     const double x = exposee.get_x(), y = exposee.get_y();
     Zone = {std::max(0.0, x), std::max(0.0, y), std::min<double>(largeur, x + exposee.get_width()),
             std::min<double>(hauteur, y + exposee.get_height())};
 }
 
-Trace::Trace(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
-             const Gdk::Color& fond)
-    : Trace(surface, largeur, hauteur) {
+TraceEcran::TraceEcran(const Glib::RefPtr<Gdk::Drawable>& surface, int largeur, int hauteur,
+                       const Gdk::Color& fond)
+    : TraceEcran(surface, largeur, hauteur) {
     Bande = true;
     Fond = fond;
     PixelFond = Pixel(fond);
     Contexte->set_function(Gdk::XOR);
 }
 
-bool Trace::Touche(const Boite& boite, const Trait& trait) const {
-    return boite.Touche(Zone.Elargie(EpaisseurBornee(trait) + 2.0));
-}
-
-void Trace::AppliqueTrait(const Trait& trait, Matiere matiere) {
+void TraceEcran::AppliqueTrait(const Trait& trait, Matiere matiere) {
     AppliqueLigne(EpaisseurBornee(trait), trait.StyleLigne);
     const bool tuile = matiere == Surface && trait.Hachure == 1;
     if (tuile) {
@@ -99,7 +95,7 @@ void Trace::AppliqueTrait(const Trait& trait, Matiere matiere) {
     Tuilage = tuile;
 }
 
-void Trace::AppliqueLigne(int epaisseur, int styleLigne) {
+void TraceEcran::AppliqueLigne(int epaisseur, int styleLigne) {
     if (LigneConnue && epaisseur == EpaisseurPosee && styleLigne == StylePose) return;
     // Round caps would join the dots of a wide dashed line.
     if (styleLigne == Continu)
@@ -114,7 +110,7 @@ void Trace::AppliqueLigne(int epaisseur, int styleLigne) {
     PlacePhase(0.0);
 }
 
-void Trace::PlacePhase(double phase) {
+void TraceEcran::PlacePhase(double phase) {
     if (StylePose == Continu) return;
     const Tirage& tirage = TirageDe(StylePose);
     double reste = std::fmod(phase, tirage.Periode);
@@ -127,13 +123,13 @@ void Trace::PlacePhase(double phase) {
     PhasePosee = entiere;
 }
 
-guint32 Trace::Pixel(const Gdk::Color& couleur) const {
+guint32 TraceEcran::Pixel(const Gdk::Color& couleur) const {
     GdkColor cherchee = *couleur.gobj();
     gdk_rgb_find_color(Support->get_colormap()->gobj(), &cherchee);
     return cherchee.pixel;
 }
 
-void Trace::AppliqueCouleur(const Gdk::Color& couleur) {
+void TraceEcran::AppliqueCouleur(const Gdk::Color& couleur) {
     if (CouleurConnue && gdk_color_equal(couleur.gobj(), &CouleurPosee)) return;
     CouleurConnue = true;
     CouleurPosee = *couleur.gobj();
@@ -146,7 +142,7 @@ void Trace::AppliqueCouleur(const Gdk::Color& couleur) {
     gdk_gc_set_foreground(Contexte->gobj(), &exclusif);
 }
 
-void Trace::AppliqueTuile(const Trait& trait) {
+void TraceEcran::AppliqueTuile(const Trait& trait) {
     const bool posee =
         TuilePosee && trait.PasHachure == TraitTuile.PasHachure &&
         trait.AngleHachure == TraitTuile.AngleHachure && trait.Epaisseur == TraitTuile.Epaisseur &&
@@ -162,7 +158,7 @@ void Trace::AppliqueTuile(const Trait& trait) {
     if (!posee || !Tuilage) Contexte->set_fill(Gdk::TILED);
 }
 
-void Trace::AncreTuile() {
+void TraceEcran::AncreTuile() {
     int largeur = 0, hauteur = 0;
     TuilePosee->get_size(largeur, hauteur);
     // The hatch moves with the drawing.
@@ -175,7 +171,7 @@ void Trace::AncreTuile() {
     AncrePosee = ancre;
 }
 
-Gdk::Color Trace::Visible(const Gdk::Color& couleur) const {
+Gdk::Color TraceEcran::Visible(const Gdk::Color& couleur) const {
     if (!(Bande || PourBande) || couleur != Fond) return couleur;
     Gdk::Color inverse;
     inverse.set_rgb(static_cast<gushort>(~Fond.get_red()), static_cast<gushort>(~Fond.get_green()),
@@ -183,7 +179,7 @@ Gdk::Color Trace::Visible(const Gdk::Color& couleur) const {
     return inverse;
 }
 
-void Trace::Compose(const Boite& boite, const std::function<void(Trace&)>& dessine) {
+void TraceEcran::Compose(const Boite& boite, const std::function<void(Trace&)>& dessine) {
     if (!Bande) {
         dessine(*this);
         return;
@@ -198,7 +194,7 @@ void Trace::Compose(const Boite& boite, const std::function<void(Trace&)>& dessi
     const auto image =
         Gdk::Pixmap::create(Support, Pixels(Aire.Droite), Pixels(Aire.Bas), Support->get_depth());
     image->set_colormap(Support->get_colormap());
-    Trace interne(image, Pixels(Aire.Droite), Pixels(Aire.Bas));
+    TraceEcran interne(image, Pixels(Aire.Droite), Pixels(Aire.Bas));
     interne.Zone = Boite{1.0 * x, 1.0 * y, 1.0 * (x + largeur), 1.0 * (y + hauteur)};
     interne.PourBande = true;
     interne.Fond = Fond;
@@ -212,18 +208,11 @@ void Trace::Compose(const Boite& boite, const std::function<void(Trace&)>& dessi
                       hauteur);
 }
 
-bool Trace::PeutPeindreContenus(int nombre) {
-    constexpr int limite = 100000;
-    if (ContenusPeints >= limite) return false;
-    ContenusPeints += nombre;
-    return true;
-}
-
-void Trace::Segment(const PointVek& a, const PointVek& b) {
+void TraceEcran::Segment(const PointVek& a, const PointVek& b) {
     LigneDepuis(a, b, 0.0);
 }
 
-void Trace::LigneDepuis(const PointVek& a, const PointVek& b, double phase) {
+void TraceEcran::LigneDepuis(const PointVek& a, const PointVek& b, double phase) {
     if (Envoyable.Contient(a) && Envoyable.Contient(b)) {
         PlacePhase(phase);
         gdk_draw_line(Support->gobj(), Contexte->gobj(), Pixels(a.x), Pixels(a.y), Pixels(b.x),
@@ -237,7 +226,7 @@ void Trace::LigneDepuis(const PointVek& a, const PointVek& b, double phase) {
                   Pixels(fin.x), Pixels(fin.y));
 }
 
-void Trace::Droite(const PointVek& p, const PointVek& d) {
+void TraceEcran::Droite(const PointVek& p, const PointVek& d) {
     const double longueur = Norme(d);
     if (!p.EstFini() || !std::isfinite(longueur)) return;
     const PointVek u = longueur > 0.0 ? d / longueur : PointVek(0.0, 1.0);
@@ -254,7 +243,7 @@ void Trace::Droite(const PointVek& p, const PointVek& d) {
     LigneDepuis(a, b, glissement - portee + Norme(a - depart));
 }
 
-void Trace::Arc(ArcEcran arc, bool plein) {
+void TraceEcran::Arc(ArcEcran arc, bool plein) {
     if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon) || arc.Rayon < 0.0) return;
     arc.Debut = std::fmod(arc.Debut, DeuxPi);
     arc.Ouverture = std::clamp(arc.Ouverture, -DeuxPi, DeuxPi);
@@ -268,11 +257,11 @@ void Trace::Arc(ArcEcran arc, bool plein) {
                  Pixels(EnDegres(arc.Debut) * 64.0), Pixels(EnDegres(arc.Ouverture) * 64.0));
 }
 
-std::vector<double> Trace::PasVisibles(const ArcEcran& arc) const {
+std::vector<double> TraceEcran::PasVisibles(const ArcEcran& arc) const {
     return PasArc(arc, Aire.Elargie(EpaisseurPosee + 2.0));
 }
 
-void Trace::Remplit(std::vector<PointVek> sommets) {
+void TraceEcran::Remplit(std::vector<PointVek> sommets) {
     std::vector<GdkPoint> pixels;
     for (const PointVek& p : CoupePolygone(std::move(sommets), Envoyable)) {
         if (!p.EstFini()) continue;
@@ -291,15 +280,7 @@ void Trace::Remplit(std::vector<PointVek> sommets) {
                          static_cast<int>(pixels.size()));
 }
 
-void Trace::Lien(const LienEcran& lien) {
-    if (!lien.Visible) return;
-    if (lien.Arc)
-        Arc(*lien.Arc, false);
-    else
-        Segment(lien.Debut, lien.Fin);
-}
-
-void Trace::Polygone(const std::vector<LienEcran>& liens) {
+void TraceEcran::Polygone(const std::vector<LienEcran>& liens) {
     std::vector<PointVek> sommets;
     for (const LienEcran& lien : liens) {
         sommets.push_back(lien.Debut);
@@ -309,7 +290,7 @@ void Trace::Polygone(const std::vector<LienEcran>& liens) {
     Remplit(std::move(sommets));
 }
 
-void Trace::AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) const {
+void TraceEcran::AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) const {
     if (!arc.Centre.EstFini() || !std::isfinite(arc.Rayon)) return;
     if (!EstDirect(arc)) {
         for (const double angle : PasVisibles(arc))
@@ -335,7 +316,7 @@ void Trace::AjouteBord(const ArcEcran& arc, std::vector<PointVek>& sommets) cons
     }
 }
 
-void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
+void TraceEcran::ArcParPas(const ArcEcran& arc, bool plein) {
     const std::vector<double> angles = PasVisibles(arc);
     if (plein) {
         std::vector<PointVek> sommets;
@@ -367,7 +348,7 @@ void Trace::ArcParPas(const ArcEcran& arc, bool plein) {
     envoie();
 }
 
-void Trace::PolyligneDepuis(const std::vector<PointVek>& points, double phase) {
+void TraceEcran::PolyligneDepuis(const std::vector<PointVek>& points, double phase) {
     std::vector<GdkPoint> pixels;
     for (const PointVek& p : points) {
         if (!Envoyable.Contient(p)) break;
@@ -386,7 +367,7 @@ void Trace::PolyligneDepuis(const std::vector<PointVek>& points, double phase) {
     }
 }
 
-void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein) {
+void TraceEcran::Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein) {
     const PointVek oppose(coin.x + largeur, coin.y + hauteur);
     if (!coin.EstFini() || !oppose.EstFini()) return;
     if (Envoyable.Contient(coin) && Envoyable.Contient(oppose)) {
@@ -411,7 +392,7 @@ void Trace::Rectangle(const PointVek& coin, double largeur, double hauteur, bool
     LigneDepuis(gauche, coin, largeur * 2.0 + hauteur);
 }
 
-void Trace::Poignee(const PointVek& centre) {
+void TraceEcran::Poignee(const PointVek& centre) {
     if (!Envoyable.Contient(centre)) return;
     const int x = Pixels(centre.x), y = Pixels(centre.y);
     // Two handles on the same pixels would take each other away in a band.
@@ -421,20 +402,23 @@ void Trace::Poignee(const PointVek& centre) {
     gdk_draw_rectangle(Support->gobj(), Contexte->gobj(), FALSE, x - 5, y - 5, 10, 10);
 }
 
-void Trace::Croix(const PointVek& centre, double bras) {
+void TraceEcran::Croix(const PointVek& centre, double bras) {
     Segment({centre.x - bras, centre.y}, {centre.x + bras, centre.y});
     Segment({centre.x, centre.y - bras}, {centre.x, centre.y + bras});
 }
 
-void Trace::Texte(const TexteEcran& texte, const Gdk::Color& couleur) {
+void TraceEcran::Texte(const TexteEcran& texte, const Gdk::Color& couleur) {
     if (texte.EstInvisible()) return;
     const TexteMisEnPage mise(texte);
     const Boite boite = mise.Cadre();
     if (!boite.Touche(Zone)) return;
-    Compose(boite, [&](Trace& trace) { mise.Peint(trace.Support, trace.Visible(couleur)); });
+    Compose(boite, [&](Trace& trace) {
+        const auto& ecran = static_cast<TraceEcran&>(trace);
+        mise.Peint(ecran.Support, ecran.Visible(couleur));
+    });
 }
 
-void Trace::Point(const PointVek& p) {
+void TraceEcran::Point(const PointVek& p) {
     if (!Zone.Elargie(1.0).Contient(p)) return;
     gdk_draw_point(Support->gobj(), Contexte->gobj(), Pixels(p.x), Pixels(p.y));
 }

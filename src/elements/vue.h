@@ -2,7 +2,8 @@
 
 #include "elements/pointvek.h"
 
-/// What an element needs of the view, whatever it is. Defined by the model beside `Echelle`.
+/// What an element needs of the view, whatever it is. While a page is painted, its units stand in
+/// place of pixels. Defined by the model beside `Echelle`.
 namespace vue {
 
 /// Zero of the geometric tests, in drawing units at the present zoom.

@@ -36,9 +36,13 @@ void Echelle::Sauve(Ecrivain& sortie) const {
 }
 
 void Echelle::Charge(Lecteur& entree) {
+    // Farther away, the digits of a coordinate no longer tell one pixel from the next.
+    constexpr double loin = 1e12;
     double facteur = Facteur;
-    entree >> Style >> Position >> Origine >> facteur;
+    PointVek origine = Origine;
+    entree >> Style >> Position >> origine >> facteur;
     SetFacteur(facteur);
+    if (std::abs(origine.x) <= loin && std::abs(origine.y) <= loin) Origine = origine;
 }
 
 void Echelle::SetCentre(int largeur, int hauteur) {
@@ -100,6 +104,21 @@ void Echelle::Droite() {
 
 void Echelle::Gauche() {
     Origine.x = std::max(Origine.x - Proche10, -OrigineMax);
+}
+
+VuePage::VuePage(const PointVek& origine, double facteur)
+    : Origine(EchelleCourante.Origine),
+      Centre(EchelleCourante.Centre_),
+      Facteur(EchelleCourante.Facteur) {
+    EchelleCourante.Origine = origine;
+    EchelleCourante.Centre_ = PointVek();
+    EchelleCourante.SetFacteur(facteur);
+}
+
+VuePage::~VuePage() {
+    EchelleCourante.Origine = Origine;
+    EchelleCourante.Centre_ = Centre;
+    EchelleCourante.SetFacteur(Facteur);
 }
 
 namespace vue {

@@ -50,6 +50,8 @@ class Echelle : public EltGeo {
     double Proche10;
 
   private:
+    friend class VuePage;
+
     /// Takes the scale where it is one that can be worked with.
     void SetFacteur(double facteur);
 
@@ -57,3 +59,18 @@ class Echelle : public EltGeo {
 };
 
 extern Echelle EchelleCourante;
+
+/// While it lives, drawing units go to the units of a page (y downward) in place of pixels: origine
+/// is at its upper left corner, and facteur units of the page make one of the drawing.
+class VuePage {
+  public:
+    VuePage(const PointVek& origine, double facteur);
+    ~VuePage();
+    VuePage(const VuePage&) = delete;
+    VuePage& operator=(const VuePage&) = delete;
+
+  private:
+    const PointVek Origine;
+    const PointVek Centre;
+    const double Facteur;
+};

@@ -8,6 +8,7 @@
 #include "elements/lecteur.h"
 #include "elements/trace.h"
 #include "elements/vue.h"
+#include "model/fichier.h"
 #include "model/vuedecalee.h"
 
 namespace {
@@ -59,6 +60,8 @@ void EltBDD::CopieListe(const BDDGeoBase& source) {
 }
 
 void EltBDD::Dessine(Trace& trace) const {
+    // Only the images of groups are printed: that is meant.
+    if (trace.SurPapier()) return;
     trace.Compose(trace.ZonePeinte(), [this](Trace& t) {
         EltGeo::Dessine(t);
         const PointVek coin = vue::VersEcran(Position);
@@ -93,6 +96,13 @@ void EltBDD::Charge(Lecteur& entree) {
     const Lecteur::Niveau niveau(entree, ProfondeurMax);
     Contenu.Charge(entree);
     entree.Mot();
+}
+
+void EltBDD::Ouvre(const std::string& nom) {
+    std::string texte;
+    LitFichier(nom, texte);
+    Contenu.Vide();
+    if (!texte.empty()) Contenu.ChargeTexte(texte);
 }
 
 void EltBDD::SetIdentificateur(const Glib::ustring& identificateur) {

@@ -27,13 +27,14 @@ class EltBDD : public EltGeo {
     /// Replaces the content by clones of the source's elements, in reverse order.
     void CopieListe(const BDDGeoBase& source);
 
+    /// Replaces the content by that of a drawing file; by nothing when it cannot be read.
+    void Ouvre(const std::string& nom);
+
     /// Blanks become underscores, since a name is one word in a file.
     void SetIdentificateur(const Glib::ustring& identificateur);
     bool EstIdentifie(const Glib::ustring& identificateur) const;
 
     Glib::ustring Identificateur;
-
-  private:
     BDDGeoBase Contenu;
 };
 

@@ -5,7 +5,7 @@
 
 #include "elements/ecrivain.h"
 #include "elements/lecteur.h"
-#include "elements/trace.h"
+#include "elements/traceecran.h"
 #include "elements/vue.h"
 
 namespace {
@@ -55,7 +55,7 @@ void Grille::Charge(Lecteur& entree) {
     Forme = std::clamp(Forme, 1, 4);
 }
 
-void Grille::Dessine(Trace& trace, int largeur, int hauteur) const {
+void Grille::Dessine(TraceEcran& trace, int largeur, int hauteur) const {
     if (!Affichee) return;
     const PointVek m = vue::VersEcran(Position);
     Trait trait;
@@ -79,7 +79,7 @@ void Grille::Dessine(Trace& trace, int largeur, int hauteur) const {
             DessineNoeud(trace, {x0 + i * pas, y0 + j * pas});
 }
 
-void Grille::DessineNoeud(Trace& trace, const PointVek& p) const {
+void Grille::DessineNoeud(TraceEcran& trace, const PointVek& p) const {
     if (Forme >= 3) {
         trace.Croix(p, Forme);
         return;

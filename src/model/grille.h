@@ -2,6 +2,8 @@
 
 #include "elements/eltgeo.h"
 
+class TraceEcran;
+
 /// The grid: a field of marks below the elements, to which clicks snap while it is shown.
 /// `Position` is its origin, the colour of its style its colour.
 class Grille : public EltGeo {
@@ -20,7 +22,7 @@ class Grille : public EltGeo {
     void Aligne(PointVek& p) const;
 
     /// Paints an area of largeur by hauteur pixels.
-    void Dessine(Trace& trace, int largeur, int hauteur) const;
+    void Dessine(TraceEcran& trace, int largeur, int hauteur) const;
 
     void Sauve(Ecrivain& sortie) const override;
 
@@ -33,5 +35,5 @@ class Grille : public EltGeo {
 
   private:
     using EltGeo::Dessine;
-    void DessineNoeud(Trace& trace, const PointVek& p) const;
+    void DessineNoeud(TraceEcran& trace, const PointVek& p) const;
 };

@@ -1,4 +1,4 @@
-// New, open, save, and the questions about work that is not saved.
+// New, open, import, export, save, and the questions about work that is not saved.
 
 #include <glibmm/convert.h>
 #include <glibmm/fileutils.h>
@@ -9,12 +9,18 @@
 #include <gtkmm/stock.h>
 
 #include "dialogs/choixfichier.h"
+#include "exchange/dxf.h"
+#include "exchange/importancien.h"
 #include "model/bddgeo.h"
 #include "window/dessinwindow.h"
 
 namespace {
 
 constexpr GenreFichier Lecture = {"Choisir le fichier à ouvrir", "Fichier Dessin", ".vek"};
+constexpr GenreFichier LectureDxf = {"Choisir un fichier", "Fichier Dessin", ".dxf"};
+constexpr GenreFichier EcritureDxf = {"Enregistrer au format dxf", "Fichier Dessin dxf", ".dxf"};
+constexpr GenreFichier LectureVe9 = {"Choisir un fichier", "Fichier Dessin", ".ve9"};
+constexpr GenreFichier LectureAncien = {"Choisir un fichier", "Ancien Fichier Dessin", ".vek"};
 constexpr GenreFichier Ecriture = {"Choisir le nom du fichier à enregistrer", "Fichier Dessin",
                                    ".vek"};
 
@@ -116,6 +122,29 @@ void DessinWindow::SaveAs() {
     if (ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom) != Gtk::RESPONSE_OK) return;
     BddCourante.EnregistreSous(nom);
     MetTitre();
+}
+
+void DessinWindow::Dxf() {
+    if (BddCourante.Modifie) DemandeEnregistrement();
+    const std::string nom = ChoisitLecture(*this, LectureDxf, BddCourante.NomFichier);
+    if (!nom.empty()) Zone.Importe(ImporteDxf, nom);
+}
+
+void DessinWindow::Ve9() {
+    if (BddCourante.Modifie) DemandeEnregistrement();
+    const std::string nom = ChoisitLecture(*this, LectureVe9, BddCourante.NomFichier);
+    if (!nom.empty()) Zone.Importe(ImporteVe9, nom);
+}
+
+void DessinWindow::Vek() {
+    const std::string nom = ChoisitLecture(*this, LectureAncien, BddCourante.NomFichier);
+    if (!nom.empty()) Zone.Importe(ImporteVek, nom);
+}
+
+void DessinWindow::ExportDxf() {
+    std::string nom;
+    if (ChoisitEcriture(*this, EcritureDxf, BddCourante.NomFichier, nom) == Gtk::RESPONSE_OK)
+        ExporteDxf(BddCourante, nom);
 }
 
 void DessinWindow::DemandeEnregistrement() {

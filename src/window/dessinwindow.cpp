@@ -26,7 +26,10 @@ DessinWindow::DessinWindow()
       LabelAction("Action demandée"),
       LabelCalques("Calques"),
       LabelTravail("Travail"),
-      LabelAffiche("Affiché") {
+      LabelAffiche("Affiché"),
+      MiseEnPage(Gtk::PageSetup::create()),
+      ReglagesImpression(Gtk::PrintSettings::create()) {
+    MiseEnPage->set_paper_size(Gtk::PaperSize("iso_a4"));
     set_border_width(5);
     set_size_request(800, 600);
     maximize();

@@ -3,6 +3,8 @@
 #include <gtkmm/actiongroup.h>
 #include <gtkmm/box.h>
 #include <gtkmm/label.h>
+#include <gtkmm/pagesetup.h>
+#include <gtkmm/printoperation.h>
 #include <gtkmm/recentaction.h>
 #include <gtkmm/uimanager.h>
 #include <gtkmm/window.h>
@@ -11,6 +13,8 @@
 
 #include "window/actions.h"
 #include "zone/zonedessin.h"
+
+class PrintFormOperation;
 
 /// The main window: menus and tool bar, the drawing area, the status row; and the commands that
 /// talk to the user in dialogs.
@@ -38,6 +42,17 @@ class DessinWindow : public Gtk::Window {
     void RecentFiles();
     void Save();
     void SaveAs();
+    void Dxf();
+    void Ve9();
+
+    /// Asks nothing about a modified drawing, unlike the other imports: that is meant.
+    void Vek();
+    void PageSetup();
+    void Preview();
+    void PrintDialog();
+    void Print();
+    void ExportPDF();
+    void ExportDxf();
     void Quit();
     void CalqueCourant();
     void CalquesAfficher();
@@ -73,6 +88,12 @@ class DessinWindow : public Gtk::Window {
     void AjusteMarges(int largeur);
     void AfficheCalques();
 
+    Glib::RefPtr<PrintFormOperation> PrepareImpression(const Glib::ustring& travail);
+    void Imprime(Gtk::PrintOperationAction action);
+
+    /// Says that the printing failed, unless annonce tells that the user knows already.
+    void AnnonceEchec(bool& annonce);
+
     void ConstruitActions();
     void AjouteAction(const LigneAction& ligne);
     void AjouteRecents(const LigneAction& ligne);
@@ -92,6 +113,8 @@ class DessinWindow : public Gtk::Window {
     Gtk::Label LabelAffiche;
     Glib::RefPtr<Gtk::UIManager> GestionnaireUI;
     Glib::RefPtr<Gtk::ActionGroup> Actions;
-    Gtk::Widget* BarreOutils = nullptr;  ///< The user interface manager's.
+    Glib::RefPtr<Gtk::PageSetup> MiseEnPage;
+    Glib::RefPtr<Gtk::PrintSettings> ReglagesImpression;  ///< Those of the last printing.
+    Gtk::Widget* BarreOutils = nullptr;                   ///< The user interface manager's.
     Glib::RefPtr<Gtk::RecentAction> ActionRecents;
 };

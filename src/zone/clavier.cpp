@@ -25,6 +25,11 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
             break;
         case GDK_Z:
         case GDK_z:
+            // With Control it is the key that every hand knows for undoing.
+            if (evenement->state & GDK_CONTROL_MASK) {
+                AnnuleAction();
+                return true;
+            }
             EchelleCourante.Origine = PointSouris;
             break;
         case GDK_Escape:

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/trace.h"
+#include "elements/traceecran.h"
 
 void Surimpression::Montre(Place place, Bande bande) {
     if (!RepeinteAttendue) Peint(Bandes[place]);
@@ -20,6 +20,6 @@ void Surimpression::Peint(const Bande& bande) const {
     if (!bande || !Fenetre) return;
     int largeur = 0, hauteur = 0;
     Fenetre->get_size(largeur, hauteur);
-    Trace trace(Fenetre, largeur, hauteur, Fond);
+    TraceEcran trace(Fenetre, largeur, hauteur, Fond);
     bande(trace);
 }

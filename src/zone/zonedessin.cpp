@@ -3,9 +3,10 @@
 #include <clocale>
 
 #include "dialogs/reeldialog.h"
-#include "elements/trace.h"
+#include "elements/traceecran.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
+#include "model/feuille.h"
 #include "zone/tableetats.h"
 
 ZoneDessin::ZoneDessin() : CouleurFond("#FFFFFF") {
@@ -61,7 +62,9 @@ bool ZoneDessin::on_expose_event(GdkEventExpose* evenement) {
     fenetre->get_size(largeur, hauteur);
     EchelleCourante.SetCentre(largeur, hauteur);
     const GdkRectangle& zone = evenement->area;
-    Trace trace(fenetre, largeur, hauteur, Gdk::Rectangle(zone.x, zone.y, zone.width, zone.height));
+    TraceEcran trace(fenetre, largeur, hauteur,
+                     Gdk::Rectangle(zone.x, zone.y, zone.width, zone.height));
+    FeuilleCourante.DessineApercu(trace);
     if (SelectionVisible) RectangleSelection.Dessine(trace);
     GrilleCourante.Dessine(trace, largeur, hauteur);
     BddCourante.Dessine(trace);
@@ -156,6 +159,13 @@ void ZoneDessin::SetCalqueAffiche(int calque) {
 
 void ZoneDessin::OuvreZone(const std::string& nom) {
     BddCourante.Ouvre(nom);
+    RazEtat();
+    CacheRepere();
+    Redessine();
+}
+
+void ZoneDessin::Importe(void (*importeur)(BDDGeo&, std::string), const std::string& nom) {
+    importeur(BddCourante, nom);
     RazEtat();
     CacheRepere();
     Redessine();

@@ -18,6 +18,7 @@
 #include "zone/prototypes.h"
 #include "zone/surimpression.h"
 
+class BDDGeo;
 struct LigneEtat;
 
 /// The drawing area: it shows the drawing through the view, and turns clicks, motions and keys into
@@ -51,6 +52,9 @@ class ZoneDessin : public Gtk::DrawingArea {
     // File commands.
 
     void OuvreZone(const std::string& nom);
+
+    /// Replaces the drawing by what the importer reads from the file.
+    void Importe(void (*importeur)(BDDGeo&, std::string), const std::string& nom);
     void Nouveau();
 
     // Commands of the menus.

@@ -44,7 +44,7 @@ std::unique_ptr<EltGeo> Relu(const std::string& record) {
 
 std::vector<unsigned> Peint(const EltGeo& elt, bool bande = false) {
     const Toile toile;
-    Trace trace = bande ? toile.Bande() : toile.Pinceau();
+    TraceEcran trace = bande ? toile.Bande() : toile.Pinceau();
     elt.Dessine(trace);
     return toile.Lit();
 }

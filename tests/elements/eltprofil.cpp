@@ -25,7 +25,7 @@ EltProfil Charge(const std::string& suite) {
 
 std::vector<unsigned> Peint(const EltProfil& profil, bool bande = false) {
     const Toile toile;
-    Trace trace = bande ? toile.Bande() : toile.Pinceau();
+    TraceEcran trace = bande ? toile.Bande() : toile.Pinceau();
     profil.Dessine(trace);
     return toile.Lit();
 }

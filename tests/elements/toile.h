@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "elements/trace.h"
+#include "elements/traceecran.h"
 #include "model/echelle.h"
 
 constexpr unsigned Noir = 0x000000, Blanc = 0xffffff, Rouge = 0xff0000, Bleu = 0x0000ff;
@@ -29,10 +29,12 @@ class Toile {
     Toile(const Toile&) = delete;
     Toile& operator=(const Toile&) = delete;
 
-    Trace Pinceau(const Gdk::Rectangle& exposee = {0, 0, Largeur, Hauteur}) const {
-        return Trace(Surface, Largeur, Hauteur, exposee);
+    TraceEcran Pinceau(const Gdk::Rectangle& exposee = {0, 0, Largeur, Hauteur}) const {
+        return TraceEcran(Surface, Largeur, Hauteur, exposee);
     }
-    Trace Bande() const { return Trace(Surface, Largeur, Hauteur, Gdk::Color("#ffffff")); }
+    TraceEcran Bande() const {
+        return TraceEcran(Surface, Largeur, Hauteur, Gdk::Color("#ffffff"));
+    }
 
     /// The picture line by line, as 0xrrggbb.
     std::vector<unsigned> Lit() const {

@@ -18,7 +18,7 @@ using Image = std::vector<unsigned>;
 
 Image Peinte(const EltGeo& elt) {
     const Toile toile;
-    Trace trace = toile.Pinceau();
+    TraceEcran trace = toile.Pinceau();
     elt.Dessine(trace);
     return toile.Lit();
 }
@@ -167,7 +167,7 @@ TEST(Trace, CeQuiEstDehorsNeSePeintPas) {
     Compare(Peinte(Cercle(65446, 0, 10)), vide);
     Compare(Peinte(EltRectangle({65436, 10}, {65456, -10}, 0)), vide);
     const Toile toile;
-    Trace trace = toile.Pinceau();
+    TraceEcran trace = toile.Pinceau();
     trace.AppliqueTrait(Trait(), Trace::Ligne);
     trace.Point({65546, 10});
     trace.Poignee({65546, 10});
@@ -235,13 +235,13 @@ TEST(Trace, BandeSEffaceAuPixel) {
     for (const Trait& style : Styles())
         for (const auto& elt : Echantillon()) {
             const Toile toile;
-            Trace fond = toile.Pinceau();
+            TraceEcran fond = toile.Pinceau();
             Secteur(45, 0, 5).Dessine(fond);
             elt->Style = style;
             const Image avant = toile.Lit();
             // Each painting with a context of its own, as two motions of the pointer have.
             const auto bande = [&] {
-                Trace trace = toile.Bande();
+                TraceEcran trace = toile.Bande();
                 elt->Dessine(trace);
                 elt->DessinePoignees(trace);
             };
@@ -255,7 +255,7 @@ TEST(Trace, BandeSEffaceAuPixel) {
         EltSegment s({-50, 0}, {50, 0}, 0);
         s.Style.Couleur = Gdk::Color(couleur);
         const Toile toile;
-        Trace trace = toile.Bande();
+        TraceEcran trace = toile.Bande();
         s.Dessine(trace);
         EXPECT_EQ(Vu(toile.Lit(), 100, 80), couleur[5] == couleur[1] ? Noir : Rouge);
     }
@@ -266,7 +266,7 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
         const Toile toile;
         for (int x = 0; x < Toile::Largeur; x += 25)
             for (int y = 0; y < Toile::Hauteur; y += 20) {
-                Trace trace = toile.Pinceau(Gdk::Rectangle(x, y, 25, 20));
+                TraceEcran trace = toile.Pinceau(Gdk::Rectangle(x, y, 25, 20));
                 peint(trace);
             }
         return toile.Lit();
@@ -278,7 +278,7 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
             const auto image = parties([&](Trace& trace) { elt->Dessine(trace); });
             EXPECT_TRUE(image == Peinte(*elt)) << elt->Clone()->Nom();
         }
-    const auto image = parties([](Trace& trace) {
+    const auto image = parties([](TraceEcran& trace) {
         trace.AppliqueTrait(Trait(), Trace::Ligne);
         for (int i = 0; i < 159; ++i)
             trace.Point({i + 0.0, i + 0.6});
@@ -290,10 +290,10 @@ TEST(Trace, LaHachureSuitLaVue) {
     EltDisque disque(Secteur(40, 0, DeuxPi));
     disque.Style = Styles()[4];
     const Toile fixe, glissee;
-    Trace avant = fixe.Pinceau();
+    TraceEcran avant = fixe.Pinceau();
     disque.Dessine(avant);
     EchelleCourante.Origine = {-3, 5};
-    Trace apres = glissee.Pinceau();
+    TraceEcran apres = glissee.Pinceau();
     disque.Dessine(apres);
     const Image a = fixe.Lit(), b = glissee.Lit();
     int autres = 0;

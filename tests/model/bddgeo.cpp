@@ -104,7 +104,7 @@ TEST(BDDGeo, EmpilementEtCalques) {
     EXPECT_FALSE(bdd.Modifie);
     const auto vu = [&bdd](int x, int y) {
         const Toile toile;
-        Trace trace = toile.Pinceau();
+        TraceEcran trace = toile.Pinceau();
         bdd.Dessine(trace);
         return Vu(toile.Lit(), 100 + x, 80 - y);
     };

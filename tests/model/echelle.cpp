@@ -72,7 +72,7 @@ TEST(Grille, Marques) {
     g.Pas = 12;
     const auto peint = [&g](const Gdk::Rectangle& exposee) {
         const Toile toile;
-        Trace trace = toile.Pinceau(exposee);
+        TraceEcran trace = toile.Pinceau(exposee);
         g.Dessine(trace, Toile::Largeur, Toile::Hauteur);
         return toile.Lit();
     };

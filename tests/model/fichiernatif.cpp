@@ -208,7 +208,7 @@ TEST(FichierNatif, MutationsAuHasard) {
         // What was read can be searched, painted and pasted, whatever it is.
         if (essai % 8 > 1) continue;
         BddCourante.Cherche({1, 2});
-        Trace trace = toile.Pinceau(), bande = toile.Bande();
+        TraceEcran trace = toile.Pinceau(), bande = toile.Bande();
         BddCourante.Dessine(trace);
         BddCourante.Dessine(bande);
         BDDGeoClipboard collage;

@@ -156,6 +156,34 @@ TEST(Fichiers, EnregistrerRouvrirAvecAccents) {
     EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n2\n") << "the file is the former one";
 }
 
+TEST(Fichiers, ImporterDemandeUnAutreNom) {
+    Bureau bureau;
+    const std::string ancien = KRVEK_ESSAIS "/exchange/data/version10.vek";
+    std::string texte;
+    ASSERT_TRUE(LitFichier(KRVEK_ESSAIS "/exchange/data/version23.vek", texte));
+    const std::string ve9 = Dossier() + "/plan.ve9", nom = Dossier() + "/repris";
+    ASSERT_TRUE(EcritFichier(ve9, std::string("\0V", 2) + texte));
+
+    // The one asks about what is not saved, the other one does not.
+    AjouteSegment();
+    bureau.Choisit("Segment");
+    RepondFichier(ancien);
+    bureau.Choisit("Vek");
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 8);
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    RepondDialogue(Gtk::RESPONSE_CANCEL, [&ve9](Gtk::Dialog& dialogue) {
+        EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
+        RepondFichier(ve9);
+    });
+    bureau.Choisit("Ve9");
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 11);
+    EXPECT_EQ(BddCourante.NomFichier, ve9);
+    RepondFichier(nom);
+    bureau.Choisit("Save");
+    EXPECT_EQ(BddCourante.NomFichier, nom + ".vek");
+    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           " + nom + ".vek");
+}
+
 TEST(Fermeture, NeFermeQueSiOnLeVeut) {
     Bureau bureau;
     EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "nothing to save, no question";

@@ -1,0 +1,84 @@
+// The page, its preview, printing and the PDF.
+
+#include <gtkmm/messagedialog.h>
+
+#include "dialogs/choixfichier.h"
+#include "exchange/miseenpagedialog.h"
+#include "exchange/printformoperation.h"
+#include "model/bddgeo.h"
+#include "model/feuille.h"
+#include "window/dessinwindow.h"
+
+namespace {
+
+constexpr GenreFichier EcriturePdf = {"Choisir le nom du fichier à enregistrer", "Fichier PDF",
+                                      ".pdf"};
+
+}  // namespace
+
+void DessinWindow::PageSetup() {
+    MiseEnPageDialog dialogue("Mise en Page", MiseEnPage,
+                              sigc::mem_fun(Zone, &ZoneDessin::Redessine));
+    for (int reponse = Gtk::RESPONSE_APPLY; reponse == Gtk::RESPONSE_APPLY;)
+        reponse = dialogue.run();
+}
+
+void DessinWindow::Preview() {
+    PrendPapier(*MiseEnPage.operator->());
+    FeuilleCourante.ApercuPage = !FeuilleCourante.ApercuPage;
+    Zone.Redessine();
+}
+
+Glib::RefPtr<PrintFormOperation> DessinWindow::PrepareImpression(const Glib::ustring& travail) {
+    const auto operation = PrintFormOperation::create();
+    operation->set_job_name(travail);
+    operation->set_track_print_status(true);
+    operation->set_default_page_setup(MiseEnPage);
+    // The settings of the last printing come before the page, which may have changed since.
+    ReglagesImpression->set_orientation(MiseEnPage->get_orientation());
+    ReglagesImpression->set_paper_size(MiseEnPage->get_paper_size());
+    operation->set_print_settings(ReglagesImpression);
+    return operation;
+}
+
+void DessinWindow::Imprime(Gtk::PrintOperationAction action) {
+    const auto operation = PrepareImpression("Dessin");
+    // A printing service that does not answer must not keep the program.
+    operation->set_allow_async(true);
+    const auto annonce = std::make_shared<bool>(false);
+    const Gtk::PrintOperation& faite = *operation.operator->();
+    operation->signal_done().connect([this, &faite, annonce](Gtk::PrintOperationResult resultat) {
+        if (resultat == Gtk::PRINT_OPERATION_RESULT_APPLY)
+            ReglagesImpression = faite.get_print_settings();
+        else if (resultat == Gtk::PRINT_OPERATION_RESULT_ERROR)
+            AnnonceEchec(*annonce);
+    });
+    try {
+        operation->run(action, *this);
+    } catch (const Glib::Error&) {
+        AnnonceEchec(*annonce);
+    }
+}
+
+void DessinWindow::AnnonceEchec(bool& annonce) {
+    if (annonce) return;
+    annonce = true;
+    Gtk::MessageDialog(*this, "Error printing form", false, Gtk::MESSAGE_ERROR, Gtk::BUTTONS_OK)
+        .run();
+}
+
+void DessinWindow::PrintDialog() {
+    Imprime(Gtk::PRINT_OPERATION_ACTION_PRINT_DIALOG);
+}
+
+void DessinWindow::Print() {
+    Imprime(Gtk::PRINT_OPERATION_ACTION_PRINT);
+}
+
+void DessinWindow::ExportPDF() {
+    std::string nom;
+    if (ChoisitEcriture(*this, EcriturePdf, BddCourante.NomFichier, nom) != Gtk::RESPONSE_OK)
+        return;
+    bool annonce = false;
+    if (!EcritPdf(PrepareImpression("Dessin PDF"), nom)) AnnonceEchec(annonce);
+}
