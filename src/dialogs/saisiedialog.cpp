@@ -48,7 +48,7 @@ SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true
     constexpr int boutons = 120;
     int largeur = 0, hauteur = 0;
     create_pango_layout(titre)->get_pixel_size(largeur, hauteur);
-    get_vbox()->set_size_request(largeur + boutons, -1);
+    set_default_size(largeur + boutons, -1);
 }
 
 void SaisieDialog::Branche(ChampSaisie& champ) {
