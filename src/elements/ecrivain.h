@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// The value that a reader finds where this one was written.
 double CommeEcrit(double valeur);
@@ -20,6 +21,9 @@ class Ecrivain {
     Ecrivain& operator<<(double valeur);
 
     const std::string& Texte() const { return Tampon; }
+
+    /// The same, taken out.
+    std::string Prend() { return std::move(Tampon); }
 
   private:
     std::string Tampon;

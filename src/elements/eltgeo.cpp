@@ -108,6 +108,18 @@ double EltGeo::Distance3D(const PointVek& p) const {
     return ::Distance3D(p, Position);
 }
 
+PointVek EltGeo::PointProche3D(const PointVek&) const {
+    return Position;
+}
+
+void EltGeo::DebutDeforme3D(const PointVek& p) {
+    DebutDeforme(p);
+}
+
+void EltGeo::Deforme3D(const PointVek& v) {
+    Deforme(v);
+}
+
 Minorant EltGeo::MinorantDistance() const {
     return Minorant::Nul();
 }

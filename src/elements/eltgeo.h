@@ -10,6 +10,8 @@
 #include "elements/trait.h"
 #include "elements/types.h"
 
+class DC3D;
+class Elt3d;
 class Trace;
 
 /// Number of the grabbed handle while an element is deformed: 0 none, 1 the whole element, the
@@ -68,8 +70,6 @@ class EltGeo {
     /// Distance to what carries the element: the endless line, the full circle.
     virtual double DistanceSupport(const PointVek& p) const;
 
-    double Distance3D(const PointVek& p) const;
-
     /// At or below `Distance` and `DistanceSupport` for every point.
     virtual Minorant MinorantDistance() const;
 
@@ -93,6 +93,32 @@ class EltGeo {
 
     /// False for what must not enter a drawing: what is not finite, or smaller than `Epsilon`.
     virtual bool EstValide() const;
+
+    // What the 3D view needs. Points are those of the world, in drawing units.
+
+    /// The body alone, in white when couleur is false; base: nothing.
+    virtual void Dessine3D(DC3D&, bool /*couleur*/) const {}
+
+    /// The body less its subtractive children. Defined by the 3D view.
+    void Dessine3DCSG(DC3D& dc) const;
+
+    /// One white point at the position. Defined by the 3D view.
+    void DessinePoint3D() const;
+
+    /// The wire that marks the element as selected; base: nothing.
+    virtual void DessineFilaire(DC3D&) const {}
+
+    /// Null for what is no solid.
+    virtual Elt3d* GetElt3d() { return nullptr; }
+    const Elt3d* GetElt3d() const { return const_cast<EltGeo*>(this)->GetElt3d(); }
+
+    /// Takes what a dialog has edited, and no more than its class has a use for.
+    virtual void ChangeElt3d(const Elt3d&) {}
+
+    virtual double Distance3D(const PointVek& p) const;
+    virtual PointVek PointProche3D(const PointVek& p) const;
+    virtual void DebutDeforme3D(const PointVek& p);
+    virtual void Deforme3D(const PointVek& v);
 
     void AjouteFils(EltGeo* fils);
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <GL/gl.h>
+#include <GL/glu.h>
+
+#include "elements/trait.h"
+#include "solids/elt3d.h"
+
+// What the bodies of solids share. All of it acts on the present GL context.
+
+/// While it lives, the axes are those of a solid at position.
+class RepereLocal {
+  public:
+    RepereLocal(const PointVek& position, const Elt3d& solide);
+    ~RepereLocal();
+    RepereLocal(const RepereLocal&) = delete;
+    RepereLocal& operator=(const RepereLocal&) = delete;
+};
+
+/// A quadric that is filled, smooth and textured.
+class Quadrique {
+  public:
+    /// orientation: `GLU_OUTSIDE` or `GLU_INSIDE`.
+    explicit Quadrique(GLenum orientation);
+    ~Quadrique();
+    Quadrique(const Quadrique&) = delete;
+    Quadrique& operator=(const Quadrique&) = delete;
+
+    void Cylindre(double bas, double haut, double hauteur, int facettes) const;
+    void Disque(double rayon, int facettes) const;
+    void Sphere(double rayon, int facettes) const;
+
+  private:
+    GLUquadric* Forme;
+};
+
+/// The element's colour, its shade raised by ecart; white when couleur is false.
+void ColoreCorps(const Trait& trait, bool couleur, double ecart = 0.0);
+
+/// Textures repeat, or end at their edge.
+void Enroule(bool repetition);
+
+/// The normal of the triangle a b c, negated when sens is false; not of unit length. False when the
+/// triangle is degenerate: the normal is set all the same.
+bool PoseNormale(const PointVek& a, const PointVek& b, const PointVek& c, bool sens = true);
+
+/// The wire box from (-a, -b, bas) to (a, b, haut): what marks a solid as selected.
+void DessineCage(double a, double b, double bas, double haut);
