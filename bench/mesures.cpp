@@ -6,7 +6,6 @@
 #include <gtkmm/window.h>
 #include <malloc.h>
 
-#include <charconv>
 #include <clocale>
 #include <cmath>
 #include <cstdio>
@@ -22,29 +21,12 @@
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "model/fichier.h"
+#include "planchers.h"
 #include "rapports.h"
 #include "zone/etats.h"
 #include "zone/zonedessin.h"
 
 namespace {
-
-/// Every number of a drawing's text, in order.
-std::vector<double> Nombres(const std::string& texte) {
-    std::vector<double> nombres;
-    const char* p = texte.data();
-    const char* fin = p + texte.size();
-    while (p != fin) {
-        while (p != fin && (*p == ' ' || *p == '\n'))
-            ++p;
-        double valeur;
-        const auto [suite, erreur] = std::from_chars(p, fin, valeur);
-        if (erreur == std::errc()) nombres.push_back(valeur);
-        p = suite;
-        while (p != fin && *p != ' ' && *p != '\n')
-            ++p;
-    }
-    return nombres;
-}
 
 void Ouverture(benchmark::State& etat) {
     const std::string& nom = FichierMesure(static_cast<int>(etat.range(0)));
@@ -79,10 +61,8 @@ void SauvegardePlancher(benchmark::State& etat) {
     const std::vector<double> nombres = Nombres(texte);
     std::vector<char> tampon(nombres.size() * 16);
     for (auto _ : etat) {
-        char* p = tampon.data();
-        for (const double valeur : nombres)
-            p += std::snprintf(p, 16, "%g ", valeur);
-        benchmark::DoNotOptimize(p);
+        EcritNombres(nombres, tampon);
+        benchmark::DoNotOptimize(tampon.data());
     }
 }
 
@@ -279,6 +259,18 @@ int main(int nombre, char** mots) {
     rapports.Compare("paste of 1,000,000 / of 100,000", "Collage/1000000", "Collage/100000", 12);
     rapports.Compare("cut of 1,000,000 / of 100,000", "Coupe/1000000", "Coupe/100000", 12);
     rapports.Compare("repaint hatched / filled", "FeuilleHachuree/10000", "FeuillePleine/10000", 3);
+    rapports.Temps("PDF of 100,000 elements", "Pdf/100000", 3000);
+    rapports.Compare("PDF of 100,000 / of 10,000", "Pdf/100000", "Pdf/10000", 12);
+    rapports.Compare("DXF import / read and converted once", "ImportDxf/100000",
+                     "ImportDxfPlancher/100000", 4);
+    rapports.Compare("DXF export / written once", "ExportDxf/100000", "ExportDxfPlancher/100000",
+                     3);
+    rapports.Compare("DXF import of 1,000,000 / 100,000", "ImportDxf/1000000", "ImportDxf/100000",
+                     15);
+    rapports.Compare("DXF export of 1,000,000 / 100,000", "ExportDxf/1000000", "ExportDxf/100000",
+                     15);
+    rapports.Compare("100,000 / 10,000 inserts of 100 blocks", "ImportBlocs/100000",
+                     "ImportBlocs/10000", 12);
     AfficheMemoire(100000);
     return 0;
 }

@@ -20,6 +20,9 @@ using Cote = std::unique_ptr<EltCote>;
 /// Drawing units, whatever the file says.
 constexpr double Taille = 3.3;
 
+/// What rounding may make of a point on the side of an angle: radians, or parts of that side.
+constexpr double Epsilon = 1e-9;
+
 bool EstProche(double angle, double degres) {
     return std::abs(angle - degres) < 1e-6;
 }
@@ -38,7 +41,7 @@ Cote CreeLineaire(const EntiteDxf& entite) {
     return cote;
 }
 
-/// Between the fifth point and the first, with its text at P1, else at the first.
+/// Between P5 and P0, with its text at P1, else at P0.
 template <class Circulaire>
 Cote CreeCirculaire(const EntiteDxf& entite) {
     auto cote = std::make_unique<Circulaire>();
@@ -54,7 +57,7 @@ double Vectoriel(const PointVek& a, const PointVek& b) {
 
 /// How far a turns, counter-clockwise, to point like b: radians in [0, 2 pi).
 double Tour(const PointVek& a, const PointVek& b) {
-    return AngleReduit(std::atan2(Vectoriel(a, b), a.x * b.x + a.y * b.y), 0.0);
+    return AngleReduit(std::atan2(Vectoriel(a, b), a.x * b.x + a.y * b.y), Epsilon);
 }
 
 /// One side of an angle: where its line begins, and where it goes to from the apex.
@@ -67,7 +70,7 @@ struct Branche {
 Cote CreeAngle(const PointVek& sommet, Branche a, Branche b, const PointVek& p) {
     const double rayon = Distance(sommet, p);
     if (!(rayon > 0.0)) return nullptr;
-    if (Tour(a.Direction, p - sommet) > Tour(a.Direction, b.Direction)) std::swap(a, b);
+    if (Tour(a.Direction, p - sommet) > Tour(a.Direction, b.Direction) + Epsilon) std::swap(a, b);
     const auto bout = [&](const Branche& branche) {
         return sommet + branche.Direction * (rayon / Distance({}, branche.Direction));
     };
@@ -95,7 +98,7 @@ Cote CreeAngleDeLignes(const EntiteDxf& entite) {
     const double aire = Vectoriel(u, w);
     const auto branche = [&sommet](const PointVek& debut, const PointVek& fin, double part) {
         const bool proche = Distance(sommet, debut) <= Distance(sommet, fin);
-        return Branche{proche ? debut : fin, part < 0.0 ? debut - fin : fin - debut};
+        return Branche{proche ? debut : fin, part < -Epsilon ? debut - fin : fin - debut};
     };
     return CreeAngle(sommet, branche(a, b, Vectoriel(v, w) / aire),
                      branche(c, d, Vectoriel(u, v) / aire), p);

@@ -58,7 +58,7 @@ std::string EcritDxf(const BDDGeoBase& bdd) {
     DebutSection(sortie, "OBJECTS");
     FinSection(sortie);
     sortie.Groupe(0, "EOF");
-    return sortie.Texte();
+    return sortie.Prend();
 }
 
 void ExporteDxf(const BDDGeoBase& bdd, const std::string& nom) {

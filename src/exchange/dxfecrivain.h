@@ -46,7 +46,8 @@ class EcrivainDxf {
     std::string NomCote() { return "*D" + std::to_string(NumCote++); }
     void RecommenceCotes() { NumCote = 0; }
 
-    const std::string& Texte() const { return Sortie.Texte(); }
+    /// The text, taken out.
+    std::string Prend() { return Sortie.Prend(); }
 
   private:
     void Code(int code);

@@ -49,14 +49,12 @@ gunichar Echappement(std::string_view texte) {
 }  // namespace
 
 std::string_view PairesDxf::Ligne() {
-    const std::size_t fin = Reste.find_first_of("\r\n");
-    const std::string_view ligne = Reste.substr(0, fin);
-    if (fin == std::string_view::npos) {
-        Reste = {};
-    } else {
-        const bool deux = Reste.substr(fin, 2) == "\r\n";
-        Reste.remove_prefix(fin + (deux ? 2 : 1));
-    }
+    const auto fin =
+        std::find_if(Reste.begin(), Reste.end(), [](char c) { return c == '\n' || c == '\r'; });
+    const auto taille = static_cast<std::size_t>(fin - Reste.begin());
+    const std::string_view ligne = Reste.substr(0, taille);
+    Reste.remove_prefix(taille);
+    if (!Reste.empty()) Reste.remove_prefix(Reste.substr(0, 2) == "\r\n" ? 2 : 1);
     return ligne;
 }
 

@@ -184,6 +184,31 @@ TEST(Fichiers, ImporterDemandeUnAutreNom) {
     EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           " + nom + ".vek");
 }
 
+TEST(Fichiers, DxfAllerEtRetour) {
+    Bureau bureau;
+    const std::string nom = Dossier() + "/pièce";
+    AjouteSegment();
+    const Glib::ustring titre = bureau.Fenetre.get_title();
+    bureau.Choisit("Segment");
+    RepondFichier(nom);
+    bureau.Choisit("ExportDxf");
+    EXPECT_TRUE(BddCourante.Modifie);
+    EXPECT_EQ(BddCourante.NomFichier, "");
+    EXPECT_NE(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    // The import asks about what is not saved.
+    RepondDialogue(Gtk::RESPONSE_CANCEL, [&nom](Gtk::Dialog& dialogue) {
+        EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
+        RepondFichier(nom + ".dxf");
+    });
+    bureau.Choisit("Dxf");
+    // Behind the two blocks of the format.
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 3);
+    EXPECT_EQ(BddCourante.NomFichier, nom + ".dxf");
+    EXPECT_FALSE(BddCourante.Nomme);
+    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Fenetre.get_title(), titre);
+}
+
 TEST(Fermeture, NeFermeQueSiOnLeVeut) {
     Bureau bureau;
     EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "nothing to save, no question";
