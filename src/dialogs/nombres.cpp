@@ -8,6 +8,11 @@
 #include <limits>
 #include <string>
 
+Glib::ustring TexteComplet(double valeur) {
+    char texte[32];
+    return std::string(texte, std::to_chars(texte, texte + sizeof texte, valeur + 0.0).ptr);
+}
+
 Glib::ustring TexteNombre(double valeur) {
     // A double this large has no decimals left to round, and would be a long row of digits.
     constexpr double limite = 1e15;

@@ -47,7 +47,6 @@ TracePage::TracePage(const Cairo::RefPtr<Cairo::Context>& contexte, double large
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
     pango_cairo_context_set_font_options(lettres, options);
     cairo_font_options_destroy(options);
-    Contexte->set_line_cap(Cairo::LINE_CAP_ROUND);
     Contexte->set_line_join(Cairo::LINE_JOIN_ROUND);
     Contexte->rectangle(0.0, 0.0, largeur, hauteur);
     Contexte->clip();
@@ -74,14 +73,16 @@ void TracePage::AppliqueTrait(const Trait& trait, Matiere matiere) {
 }
 
 void TracePage::PlaceTirets(double phase) {
-    // Dots stand farther apart than on the screen, since their round ends take up room.
+    // Dots stand farther apart than on the screen: that is meant.
     static const std::vector<double> tirets[] = {{}, {5.0}, {10.0, 5.0, 3.0, 5.0}, {2.0, 4.0}};
     const std::vector<double>& tiret =
         tirets[std::clamp<int>(Style.StyleLigne, Continu, Pointille)];
+    // Round ends would close the gaps of a wide dashed line.
+    Contexte->set_line_cap(tiret.empty() ? Cairo::LINE_CAP_ROUND : Cairo::LINE_CAP_BUTT);
     if (tiret.empty())
         Contexte->unset_dash();
     else
-        Contexte->set_dash(tiret, phase);
+        Contexte->set_dash(tiret, std::isfinite(phase) ? phase : 0.0);
 }
 
 void TracePage::Compose(const Boite&, const std::function<void(Trace&)>& dessine) {

@@ -55,7 +55,7 @@ void EcritTexte(EcrivainDxf& sortie, const EltCote& cote) {
 
 /// A full arrow with its tip at pointe, its body toward direction.
 void EcritFleche(EcrivainDxf& sortie, const PointVek& pointe, const PointVek& direction) {
-    const PointVek v = Unitaire(direction) * LongueurFleche;
+    const PointVek v = Unitaire({direction.x, direction.y}) * LongueurFleche;
     EcritCommun(sortie, "SOLID", "0");
     sortie.Classe("AcDbTrace");
     sortie.PointPlan(10, pointe);

@@ -9,7 +9,6 @@
 #include "elements/eltcotehori.h"
 #include "elements/eltcoterayon.h"
 #include "elements/eltcotevert.h"
-#include "elements/eltsegment.h"
 #include "exchange/dxfcreation.h"
 #include "exchange/dxfentite.h"
 
@@ -20,8 +19,12 @@ using Cote = std::unique_ptr<EltCote>;
 /// Drawing units, whatever the file says.
 constexpr double Taille = 3.3;
 
-/// What rounding may make of a point on the side of an angle: radians, or parts of that side.
-constexpr double Epsilon = 1e-9;
+/// What the decimals of a file may make of a point on the side of an angle: radians, or parts of
+/// that side.
+constexpr double Epsilon = 1e-4;
+
+/// Sine below which two lines are parallel.
+constexpr double Parallele = 1e-9;
 
 bool EstProche(double angle, double degres) {
     return std::abs(angle - degres) < 1e-6;
@@ -88,14 +91,14 @@ Cote CreeAngle(const PointVek& sommet, Branche a, Branche b, const PointVek& p) 
 Cote CreeAngleDeLignes(const EntiteDxf& entite) {
     const PointVek &a = entite.Points[3], &b = entite.Points[4];
     const PointVek &c = entite.Points[5], &d = entite.Points[0];
-    PointVek sommet;
-    if (!EltSegment(a, b, 0).Intersection(EltSegment(c, d, 0), sommet)) return nullptr;
-    sommet += PointVek();  // No -0 in the file.
+    const PointVek u = b - a, w = d - c;
+    const double aire = Vectoriel(u, w);
+    if (!(std::abs(aire) > Parallele * Distance(a, b) * Distance(c, d))) return nullptr;
+    const PointVek sommet = a + u * (Vectoriel(c - a, w) / aire);
     const PointVek p = entite.Point(6, entite.Point(1, d));
 
     // Each side goes to that half of its line which bounds the quarter of p.
-    const PointVek u = b - a, w = d - c, v = p - sommet;
-    const double aire = Vectoriel(u, w);
+    const PointVek v = p - sommet;
     const auto branche = [&sommet](const PointVek& debut, const PointVek& fin, double part) {
         const bool proche = Distance(sommet, debut) <= Distance(sommet, fin);
         return Branche{proche ? debut : fin, part < -Epsilon ? debut - fin : fin - debut};

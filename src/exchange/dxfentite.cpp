@@ -63,7 +63,7 @@ void EntiteDxf::Range(int code, std::string_view valeur) {
             NbSommets = EnEntier(valeur);
             break;
         case 420:
-            CouleurVraie = EnEntier(valeur);
+            CouleurVraie = EnCouleur(valeur);
             break;
     }
 }

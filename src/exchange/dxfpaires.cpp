@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <string>
 
@@ -46,6 +47,18 @@ gunichar Echappement(std::string_view texte) {
     return entier && g_unichar_validate(caractere) ? caractere : 0;
 }
 
+std::int64_t EnEntierLong(std::string_view valeur) {
+    std::string_view nombre = Debut(valeur);
+    const bool hexadecimal = nombre.substr(0, 2) == "0x";
+    if (hexadecimal) nombre.remove_prefix(2);
+    std::int64_t lu = 0;
+    const auto [suite, erreur] =
+        std::from_chars(nombre.data(), nombre.data() + nombre.size(), lu, hexadecimal ? 16 : 10);
+    if (erreur != std::errc::result_out_of_range) return lu;
+    using Bornes = std::numeric_limits<std::int64_t>;
+    return nombre.front() == '-' ? Bornes::min() : Bornes::max();
+}
+
 }  // namespace
 
 std::string_view PairesDxf::Ligne() {
@@ -82,15 +95,13 @@ double EnReel(std::string_view valeur) {
 }
 
 int EnEntier(std::string_view valeur) {
-    std::string_view nombre = Debut(valeur);
-    const bool hexadecimal = nombre.substr(0, 2) == "0x";
-    if (hexadecimal) nombre.remove_prefix(2);
-    int lu = 0;
-    const auto [suite, erreur] =
-        std::from_chars(nombre.data(), nombre.data() + nombre.size(), lu, hexadecimal ? 16 : 10);
-    if (erreur != std::errc::result_out_of_range) return lu;
     using Bornes = std::numeric_limits<int>;
-    return nombre.front() == '-' ? Bornes::min() : Bornes::max();
+    return static_cast<int>(
+        std::clamp<std::int64_t>(EnEntierLong(valeur), Bornes::min(), Bornes::max()));
+}
+
+int EnCouleur(std::string_view valeur) {
+    return static_cast<int>(EnEntierLong(valeur) & 0xffffff);
 }
 
 Glib::ustring EnTexte(std::string_view valeur) {

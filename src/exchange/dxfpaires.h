@@ -36,6 +36,9 @@ double EnReel(std::string_view valeur);
 /// Decimal, or hexadecimal behind "0x"; the nearest that can be held when it is too large.
 int EnEntier(std::string_view valeur);
 
+/// The same as 0xrrggbb; what stands before these three bytes is dropped.
+int EnCouleur(std::string_view valeur);
+
 /// A text in UTF-8 or else Windows-1252, in which \U+XXXX stands for a character.
 Glib::ustring EnTexte(std::string_view valeur);
 

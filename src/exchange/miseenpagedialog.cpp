@@ -3,7 +3,6 @@
 #include <glibmm/convert.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "dialogs/choixfichier.h"
 #include "dialogs/nombres.h"
@@ -19,9 +18,8 @@ constexpr int LongueurChemin = 4096;
 }  // namespace
 
 void PrendPapier(const Gtk::PageSetup& page) {
-    const auto mm = [](double longueur) { return static_cast<int>(std::lround(longueur)); };
-    FeuilleCourante.Papier = Gdk::Rectangle(0, 0, mm(page.get_paper_width(Gtk::UNIT_MM)),
-                                            mm(page.get_paper_height(Gtk::UNIT_MM)));
+    FeuilleCourante.Papier = {page.get_paper_width(Gtk::UNIT_MM),
+                              page.get_paper_height(Gtk::UNIT_MM)};
 }
 
 MiseEnPageDialog::MiseEnPageDialog(const Glib::ustring& titre,
@@ -32,9 +30,9 @@ MiseEnPageDialog::MiseEnPageDialog(const Glib::ustring& titre,
       Applique(std::move(applique)),
       Portrait("Portrait"),
       Paysage("Paysage"),
-      Echelle(TexteNombre(FeuilleCourante.EchellePapier())),
-      OrigineX(TexteNombre(FeuilleCourante.OrigineFeuille.x)),
-      OrigineY(TexteNombre(FeuilleCourante.OrigineFeuille.y)),
+      Echelle(TexteComplet(FeuilleCourante.EchellePapier())),
+      OrigineX(TexteComplet(FeuilleCourante.OrigineFeuille.x)),
+      OrigineY(TexteComplet(FeuilleCourante.OrigineFeuille.y)),
       Cartouche(Glib::filename_display_name(FeuilleCourante.NomCartouche()), LongueurChemin),
       BoutonParcours("Parcours"),
       Noir("N/B") {

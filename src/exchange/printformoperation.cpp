@@ -83,7 +83,7 @@ Gtk::Widget* PrintFormOperation::on_create_custom_widget() {
     onglet->set_spacings(6);
     guint rang = 0;
     const auto ajoute = [&](const char* libelle, double valeur) {
-        auto* champ = Gtk::manage(new ChampSaisie(TexteNombre(valeur)));
+        auto* champ = Gtk::manage(new ChampSaisie(TexteComplet(valeur)));
         auto* texte = Gtk::manage(new Gtk::Label(libelle, Gtk::ALIGN_LEFT));
         onglet->attach(*texte, 0, 1, rang, rang + 1, Gtk::FILL, Gtk::SHRINK);
         onglet->attach(*champ, 1, 2, rang, rang + 1, Gtk::SHRINK, Gtk::SHRINK);

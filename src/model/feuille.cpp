@@ -1,7 +1,5 @@
 #include "model/feuille.h"
 
-#include <cmath>
-
 #include "elements/eltrectangle.h"
 #include "elements/tracepage.h"
 #include "model/bddgeo.h"
@@ -16,7 +14,7 @@ void Feuille::ChargeCartouche(const std::string& nom) {
 }
 
 void Feuille::SetEchelle(double echelle) {
-    if (echelle > 1e-6 && std::isfinite(echelle)) EchellePapier_ = echelle;
+    if (echelle > 1e-6 && echelle < 1e9) EchellePapier_ = echelle;
 }
 
 void Feuille::DessineCartouche(Trace& trace) const {
@@ -26,7 +24,7 @@ void Feuille::DessineCartouche(Trace& trace) const {
 
 void Feuille::DessineApercu(Trace& trace) const {
     if (!ApercuPage) return;
-    const PointVek taille(Papier.get_width(), -Papier.get_height());
+    const PointVek taille(Papier.x, -Papier.y);
     EltRectangle(OrigineFeuille, OrigineFeuille + taille / EchellePapier_, 0).Dessine(trace);
     DessineCartouche(trace);
 }

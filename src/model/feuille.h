@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cairomm/context.h>
-#include <gdkmm/rectangle.h>
 
 #include <string>
 
@@ -17,7 +16,7 @@ class Feuille {
     void ChargeCartouche(const std::string& nom);
     const std::string& NomCartouche() const { return NomCartouche_; }
 
-    /// Takes what can be worked with: above a millionth, and finite.
+    /// Takes what can be worked with: above a millionth, and below a thousand million.
     void SetEchelle(double echelle);
 
     /// Shows the frame of the paper and the title block where they would come to lie.
@@ -31,7 +30,7 @@ class Feuille {
     double EchellePapier() const { return EchellePapier_; }
 
     PointVek OrigineFeuille;      ///< The sheet's upper left corner in the drawing.
-    Gdk::Rectangle Papier;        ///< Millimetres.
+    PointVek Papier;              ///< Its width and height in millimetres.
     bool ApercuPage = false;      ///< The sheet is shown with the drawing.
     bool ImpressionNoir = false;  ///< All ink is black.
 

@@ -177,5 +177,7 @@ bool DessinWindow::ConfirmeFermeture() {
 }
 
 void DessinWindow::Quit() {
-    if (ConfirmeFermeture()) hide();
+    if (!ConfirmeFermeture()) return;
+    AttendImpression();
+    hide();
 }

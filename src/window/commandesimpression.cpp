@@ -1,5 +1,7 @@
 // The page, its preview, printing and the PDF.
 
+#include <glibmm/main.h>
+#include <gtkmm/main.h>
 #include <gtkmm/messagedialog.h>
 
 #include "dialogs/choixfichier.h"
@@ -13,6 +15,9 @@ namespace {
 
 constexpr GenreFichier EcriturePdf = {"Choisir le nom du fichier à enregistrer", "Fichier PDF",
                                       ".pdf"};
+
+/// How long the data of a print may take to be sent when the program ends, in milliseconds.
+constexpr unsigned AttenteImpression = 5000;
 
 }  // namespace
 
@@ -46,18 +51,44 @@ void DessinWindow::Imprime(Gtk::PrintOperationAction action) {
     // A printing service that does not answer must not keep the program.
     operation->set_allow_async(true);
     const auto annonce = std::make_shared<bool>(false);
-    const Gtk::PrintOperation& faite = *operation.operator->();
+    Gtk::PrintOperation& faite = *operation.operator->();
     operation->signal_done().connect([this, &faite, annonce](Gtk::PrintOperationResult resultat) {
-        if (resultat == Gtk::PRINT_OPERATION_RESULT_APPLY)
+        // The dialog may have changed the sheet that is shown.
+        Zone.Redessine();
+        const bool perdue = faite.get_status() == Gtk::PRINT_STATUS_FINISHED_ABORTED;
+        if (resultat == Gtk::PRINT_OPERATION_RESULT_APPLY && !perdue)
             ReglagesImpression = faite.get_print_settings();
-        else if (resultat == Gtk::PRINT_OPERATION_RESULT_ERROR)
+        else if (resultat == Gtk::PRINT_OPERATION_RESULT_ERROR || perdue)
             AnnonceEchec(*annonce);
+    });
+    // The data are sent after the pages are done.
+    operation->signal_status_changed().connect([this, &faite, annonce] {
+        if (faite.get_status() == Gtk::PRINT_STATUS_FINISHED_ABORTED) AnnonceEchec(*annonce);
     });
     try {
         operation->run(action, *this);
+        Impression = operation;
     } catch (const Glib::Error&) {
         AnnonceEchec(*annonce);
     }
+}
+
+void DessinWindow::AttendImpression() const {
+    bool assez = false;
+    const auto limite = Glib::signal_timeout().connect(
+        [&assez] {
+            assez = true;
+            return false;
+        },
+        AttenteImpression);
+    const auto enCours = [this] {
+        const Gtk::PrintStatus etat =
+            Impression ? Impression->get_status() : Gtk::PRINT_STATUS_INITIAL;
+        return etat != Gtk::PRINT_STATUS_INITIAL && !Impression->is_finished();
+    };
+    while (!assez && enCours())
+        Gtk::Main::iteration();
+    sigc::connection(limite).disconnect();
 }
 
 void DessinWindow::AnnonceEchec(bool& annonce) {

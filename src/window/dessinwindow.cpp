@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "exchange/printformoperation.h"
 #include "model/bddgeo.h"
 #include "window/donnees.h"
 
@@ -114,7 +115,9 @@ void DessinWindow::MetTitre() {
 }
 
 bool DessinWindow::on_delete_event(GdkEventAny*) {
-    return !ConfirmeFermeture();
+    if (!ConfirmeFermeture()) return true;
+    AttendImpression();
+    return false;
 }
 
 bool DessinWindow::on_configure_event(GdkEventConfigure* evenement) {

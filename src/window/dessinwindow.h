@@ -91,6 +91,9 @@ class DessinWindow : public Gtk::Window {
     Glib::RefPtr<PrintFormOperation> PrepareImpression(const Glib::ustring& travail);
     void Imprime(Gtk::PrintOperationAction action);
 
+    /// Lets what is being sent to a printer go out before the program ends, for a while.
+    void AttendImpression() const;
+
     /// Says that the printing failed, unless annonce tells that the user knows already.
     void AnnonceEchec(bool& annonce);
 
@@ -115,6 +118,7 @@ class DessinWindow : public Gtk::Window {
     Glib::RefPtr<Gtk::ActionGroup> Actions;
     Glib::RefPtr<Gtk::PageSetup> MiseEnPage;
     Glib::RefPtr<Gtk::PrintSettings> ReglagesImpression;  ///< Those of the last printing.
+    Glib::RefPtr<PrintFormOperation> Impression;          ///< The last one, maybe still going on.
     Gtk::Widget* BarreOutils = nullptr;                   ///< The user interface manager's.
     Glib::RefPtr<Gtk::RecentAction> ActionRecents;
 };

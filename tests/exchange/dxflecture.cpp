@@ -14,6 +14,7 @@
 #include "exchange/dxf.h"
 #include "exchange/resume.h"
 #include "model/bddgeo.h"
+#include "model/echelle.h"
 #include "model/eltimage.h"
 
 namespace {
@@ -163,6 +164,13 @@ TEST(DxfLecture, CotesAngulaires) {
     EXPECT_NEAR(Distance(gauche->Extremite2, {-4, 1}), 0.0, 1e-9);
     EXPECT_NEAR(cote("70=2|13=0|23=0|14=9|24=0|15=0|25=0|10=5|20=8.660254|16=4|26=1")->Valeur(),
                 60.0, 1e-5);
+    // A place on one of the sides to the decimals of a file, at any zoom.
+    for (const char* place : {"16=2|26=3.464102", "16=2|26=3.464101"})
+        EXPECT_NEAR(cote(std::string("70=2|14=10|15=0|10=5|20=8.660254|") + place)->Valeur(), 60.0,
+                    1e-5);
+    EchelleCourante.Facteur = 1e-6;
+    EXPECT_NEAR(cote("70=2|14=0.001|15=0|10=0|20=0.001|16=0.001|26=0.001")->Valeur(), 90.0, 1e-9);
+    EchelleCourante.ZoomInit();
     // A place on one of the sides, and none at all.
     for (const char* place : {"16=3|26=0", "16=2.4|26=3.2", ""})
         EXPECT_NEAR(cote(std::string("70=2|14=0.3|15=0|10=0.6|20=0.8|") + place)->Valeur(),
@@ -187,7 +195,8 @@ TEST(DxfLecture, StyleEtCouleur) {
         EXPECT_EQ(style("62=" + std::to_string(i)).Couleur, Gdk::Color(noms[i]));
     for (const char* indice : {"62=6", "62=-1", "62=256", "10=0"})
         EXPECT_EQ(style(indice).Couleur, Gdk::Color("black"));
-    for (const char* vraie : {"62=2|420=0x10ff80", "420=1113984"}) {
+    for (const char* vraie :
+         {"62=2|420=0x10ff80", "420=1113984", "420=0xff10ff80", "420=4279304064"}) {
         const Gdk::Color couleur = style(vraie).Couleur;
         EXPECT_EQ(couleur.get_red(), 0x10 * 256);
         EXPECT_EQ(couleur.get_green(), 0xff * 256);
