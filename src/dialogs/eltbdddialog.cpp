@@ -1,8 +1,7 @@
 // The properties of groups and of their images.
 
+#include "dialogs/champsimage.h"
 #include "dialogs/eltgeodialog.h"
-#include "dialogs/nombres.h"
-#include "elements/angles.h"
 #include "model/eltbdd.h"
 #include "model/eltimage.h"
 
@@ -26,29 +25,16 @@ class EltBDDDialog : public EltGeoDialog {
 
 class EltImageDialog : public EltGeoDialog {
   public:
-    explicit EltImageDialog(EltImage& image)
-        : EltGeoDialog("Image de bdd", image),
-          Image(static_cast<EltImage&>(Copie())),
-          Identificateur(image.Identificateur),
-          Angle(TexteNombre(EnDegres(image.Angle))),
-          Agrandissement(TexteNombre(image.Agrandissement)) {
-        AjouteChamp("Identificateur", Identificateur);
-        AjouteChamp("angle", Angle);
-        AjouteChamp("Agrandissement", Agrandissement);
+    explicit EltImageDialog(EltImage& image) : EltGeoDialog("Image de bdd", image), Image(image) {
+        AjouteChamp("Identificateur", Image.Identificateur);
+        AjouteChamp("angle", Image.Angle);
+        AjouteChamp("Agrandissement", Image.Agrandissement);
     }
 
   private:
-    void PrendChamps() override {
-        if (Identificateur.EstModifie()) Image.SetIdentificateur(Identificateur.get_text());
-        if (const auto degres = Angle.Nombre()) Image.Angle = EnRadians(*degres);
-        // An image of no size could not be told from a lost one.
-        if (const auto k = Agrandissement.Nombre(); k && *k > 0.0) Image.Agrandissement = *k;
-    }
+    void PrendChamps() override { Image.Prend(static_cast<EltImage&>(Copie())); }
 
-    EltImage& Image;
-    ChampSaisie Identificateur;
-    ChampSaisie Angle;  ///< Degrees.
-    ChampSaisie Agrandissement;
+    ChampsImage Image;
 };
 
 }  // namespace

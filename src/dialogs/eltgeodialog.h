@@ -20,6 +20,9 @@ class EltGeoDialog : public SaisieDialog {
     /// The copy, of the element's own class.
     EltGeo& Copie() { return *Valeur; }
 
+    /// The element itself; null once it has left the drawing.
+    EltGeo* Element() const { return Elt; }
+
     /// Gives the copy what was entered in the fields of a derived dialog.
     virtual void PrendChamps() {}
 

@@ -68,17 +68,27 @@ void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ)
 }
 
 void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, Gtk::Widget& champ) {
-    if (!Champs.get_parent()) {
-        Champs.set_spacings(6);
-        get_vbox()->pack_start(Champs, Gtk::PACK_SHRINK);
-        Champs.show();
-    }
-    const auto rang = static_cast<guint>(Champs.get_children().size() / 2);
+    const guint rang = RangLibre();
     auto* texte = Gtk::manage(new Gtk::Label(libelle, Gtk::ALIGN_LEFT));
     Champs.attach(*texte, 0, 1, rang, rang + 1, Gtk::FILL);
     Champs.attach(champ, 1, 2, rang, rang + 1);
     texte->show();
     champ.show();
+}
+
+void SaisieDialog::AjouteBloc(Gtk::Widget& bloc) {
+    const guint rang = RangLibre();
+    Champs.attach(bloc, 0, 2, rang, rang + 1);
+    bloc.show_all();
+}
+
+guint SaisieDialog::RangLibre() {
+    if (!Champs.get_parent()) {
+        Champs.set_spacings(6);
+        get_vbox()->pack_start(Champs, Gtk::PACK_SHRINK);
+        Champs.show();
+    }
+    return Rangs++;
 }
 
 void SaisieDialog::on_response(int reponse) {

@@ -34,6 +34,9 @@ class SaisieDialog : public Gtk::Dialog {
     void AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ);
     void AjouteChamp(const Glib::ustring& libelle, Gtk::Widget& champ);
 
+    /// Shows what bears its own label, over the whole width, below the rows that stand already.
+    void AjouteBloc(Gtk::Widget& bloc);
+
     /// Gives the caller what was entered.
     virtual void Prend() = 0;
 
@@ -43,5 +46,9 @@ class SaisieDialog : public Gtk::Dialog {
     void Branche(ChampSaisie& champ);
 
   private:
+    /// The first row of the table that is free.
+    guint RangLibre();
+
     Gtk::Table Champs;
+    guint Rangs = 0;
 };

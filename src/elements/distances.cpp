@@ -40,14 +40,27 @@ double DistanceDroite(const PointVek& p, const PointVek& a, const PointVek& b) {
     return pied.Ecart();
 }
 
-PointVek PlusProche(const PointVek& p, std::initializer_list<PointVek> candidats) {
+namespace {
+
+template <class Points, class Mesure>
+PointVek Premier(const Points& candidats, const Mesure& mesure) {
     double meilleure = HUGE_VAL;
     PointVek proche;
     for (const PointVek& candidat : candidats) {
-        const double d = Distance(p, candidat);
+        const double d = mesure(candidat);
         if (!(d < meilleure)) continue;
         meilleure = d;
         proche = candidat;
     }
     return proche;
+}
+
+}  // namespace
+
+PointVek PlusProche(const PointVek& p, std::initializer_list<PointVek> candidats) {
+    return Premier(candidats, [&p](const PointVek& candidat) { return Distance(p, candidat); });
+}
+
+PointVek PlusProche3D(const PointVek& p, const std::vector<PointVek>& candidats) {
+    return Premier(candidats, [&p](const PointVek& candidat) { return Distance3D(p, candidat); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <vector>
 
 #include "elements/pointvek.h"
 
@@ -12,3 +13,6 @@ double DistanceDroite(const PointVek& p, const PointVek& a, const PointVek& b);
 
 /// The candidate nearest to p; of equals the earliest.
 PointVek PlusProche(const PointVek& p, std::initializer_list<PointVek> candidats);
+
+/// The same in space.
+PointVek PlusProche3D(const PointVek& p, const std::vector<PointVek>& candidats);

@@ -52,10 +52,10 @@ class EltArc : public EltGeo {
     PointVek Fin() const;
 
     /// A full circle about the present centre through p.
-    void SetRayonPoint(const PointVek& p);
+    virtual void SetRayonPoint(const PointVek& p);
 
     /// A full circle of radius 10 about p.
-    void SetCentreDefaut(const PointVek& p);
+    virtual void SetCentreDefaut(const PointVek& p);
 
     /// Radius and start from p; an opening of 15 degrees, so that a preview shows something.
     void SetDebutPoint(const PointVek& p);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "elements/angles.h"
+#include "elements/distances.h"
 #include "elements/ecrivain.h"
 #include "elements/eltarc.h"
 #include "elements/eltsegment.h"
@@ -14,7 +15,7 @@
 
 int SommetCourant = -1;
 
-EltProfil::EltProfil() : EltGeo(TypeProfil) {}
+EltProfil::EltProfil(int type) : EltGeo(type) {}
 
 std::unique_ptr<EltGeo> EltProfil::Clone() const {
     return std::make_unique<EltProfil>(*this);
@@ -107,7 +108,7 @@ void EltProfil::ChangeTrait(const Trait& trait) {
 void EltProfil::DebutDeforme(const PointVek& p) {
     PoigneeCourante = 1;
     if (::Distance(p, Position) < vue::Proche10()) return;
-    SommetCourant = SommetProche(p);
+    SommetCourant = SommetProche(p - Position, ::Distance);
     if (SommetCourant >= 0) PoigneeCourante = 4;
 }
 
@@ -116,6 +117,23 @@ void EltProfil::Deforme(const PointVek& v) {
         EltGeo::Deforme(v);
     else if (SommetCourant >= 0 && SommetCourant < static_cast<int>(Sommets.size()))
         Sommets[static_cast<std::size_t>(SommetCourant)] += v;
+}
+
+PointVek EltProfil::PointProche3D(const PointVek& p) const {
+    std::vector<PointVek> reperes = {{}};
+    reperes.insert(reperes.end(), Sommets.begin(), Sommets.end());
+    return Position + DepuisAxes(PlusProche3D(VersAxes(p - Position), reperes));
+}
+
+void EltProfil::DebutDeforme3D(const PointVek& p) {
+    PoigneeCourante = 1;
+    if (::Distance3D(p, Position) < vue::Proche3D) return;
+    SommetCourant = SommetProche(VersAxes(p - Position), ::Distance3D);
+    if (SommetCourant >= 0) PoigneeCourante = 4;
+}
+
+void EltProfil::Deforme3D(const PointVek& v) {
+    Deforme(PoigneeCourante == 4 ? VersAxes(v) : v);
 }
 
 void EltProfil::Sauve(Ecrivain& sortie) const {
@@ -138,13 +156,13 @@ void EltProfil::Charge(Lecteur& entree) {
     }
 }
 
-int EltProfil::SommetProche(const PointVek& p) const {
+int EltProfil::SommetProche(const PointVek& p, Mesure distance) const {
     int proche = -1;
-    double distance = HUGE_VAL;
+    double minimum = HUGE_VAL;
     for (std::size_t i = 0; i < Sommets.size(); ++i) {
-        const double d = ::Distance(p, Absolu(Sommets[i]));
-        if (!(d < distance)) continue;
-        distance = d;
+        const double d = distance(p, Sommets[i]);
+        if (!(d < minimum)) continue;
+        minimum = d;
         proche = static_cast<int>(i);
     }
     return proche;
@@ -155,7 +173,7 @@ double EltProfil::Distance(const PointVek& p) const {
 }
 
 PointVek EltProfil::PointProche(const PointVek& p) const {
-    const int proche = SommetProche(p);
+    const int proche = SommetProche(p - Position, ::Distance);
     if (proche < 0) return Position;
     const PointVek sommet = Absolu(Sommets[static_cast<std::size_t>(proche)]);
     return ::Distance(p, sommet) < ::Distance(p, Position) ? sommet : Position;
@@ -224,4 +242,19 @@ void EltProfil::AjouteArc(const EltArc& arc) {
     }
     Dernier = retour ? debut : fin;
     Sommets.emplace_back(Dernier - Position, rayon);
+}
+
+const EltProfil* CommeProfil(const EltGeo& elt) {
+    switch (elt.Type) {
+        case TypeProfil:
+        case TypeProfilElevation:
+        case TypeProfilTourne:
+        case TypeProfilSurface:
+        case TypeProfilRuban:
+        case TypeProfilEvantail:
+        case TypeRainureP:
+            return static_cast<const EltProfil*>(&elt);
+        default:
+            return nullptr;
+    }
 }

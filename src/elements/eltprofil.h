@@ -15,7 +15,7 @@ extern int SommetCourant;
 /// A chain of vertices joined by straight lines and arcs, about `Position`.
 class EltProfil : public EltGeo {
   public:
-    EltProfil();
+    explicit EltProfil(int type = TypeProfil);
     EltProfil(const EltProfil&) = default;
 
     std::unique_ptr<EltGeo> Clone() const override;
@@ -42,6 +42,13 @@ class EltProfil : public EltGeo {
     /// False too when all the vertices lie on one point.
     bool EstValide() const override;
 
+    /// The nearest of `Position` and the vertices.
+    PointVek PointProche3D(const PointVek& p) const override;
+
+    /// Like `DebutDeforme`, as near as picks are in 3D.
+    void DebutDeforme3D(const PointVek& p) override;
+    void Deforme3D(const PointVek& v) override;
+
     // A profile is drawn vertex after vertex.
 
     /// Starts anew, without vertices, about p.
@@ -63,9 +70,18 @@ class EltProfil : public EltGeo {
     bool Ferme = true;                  ///< A last link joins the last vertex to the first.
     std::vector<SommetProfil> Sommets;  ///< Relative to `Position`.
 
+  protected:
+    // A vector of the world in the axes that the vertices stand in, and back; a profile that lies
+    // in the plane of the sheet has those of the world.
+
+    virtual PointVek VersAxes(const PointVek& v) const { return v; }
+    virtual PointVek DepuisAxes(const PointVek& v) const { return v; }
+
   private:
-    /// Index of the vertex nearest to p (absolute); -1 when there is none.
-    int SommetProche(const PointVek& p) const;
+    using Mesure = double (*)(const PointVek&, const PointVek&);
+
+    /// Index of the vertex nearest to p, which is relative like them; -1 when there is none.
+    int SommetProche(const PointVek& p, Mesure distance) const;
     PointVek Absolu(const SommetProfil& sommet) const { return Position + sommet; }
     void AjouteArc(const EltArc& arc);
     LienEcran Lien(const SommetProfil& precedent, const SommetProfil& sommet) const;
@@ -75,3 +91,6 @@ class EltProfil : public EltGeo {
     PointVek Dernier;     ///< Where the chain has got to, absolute.
     PointVek Provisoire;  ///< Absolute.
 };
+
+/// The same element; null for a type whose elements are no profiles.
+const EltProfil* CommeProfil(const EltGeo& elt);

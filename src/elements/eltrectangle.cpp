@@ -9,7 +9,7 @@
 #include "elements/tuile.h"
 #include "elements/vue.h"
 
-EltRectangle::EltRectangle() : EltSegment(TypeRectangle) {}
+EltRectangle::EltRectangle(int type) : EltSegment(type) {}
 
 EltRectangle::EltRectangle(const PointVek& origine, const PointVek& extremite, int calque)
     : EltSegment(origine, extremite, calque) {

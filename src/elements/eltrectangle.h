@@ -7,7 +7,7 @@
 /// otherwise, so everything reads them through `Coins`.
 class EltRectangle : public EltSegment {
   public:
-    EltRectangle();
+    explicit EltRectangle(int type = TypeRectangle);
     EltRectangle(const PointVek& origine, const PointVek& extremite, int calque);
     EltRectangle(const EltRectangle&) = default;
 

@@ -25,14 +25,6 @@ std::string Coupe(const std::string& texte, std::size_t octets) {
     return texte.substr(0, octets);
 }
 
-/// A text on one line.
-Glib::ustring EnLigne(const Glib::ustring& texte) {
-    Glib::ustring ligne;
-    for (const gunichar c : texte)
-        ligne += g_unichar_iscntrl(c) || c == 0x2028 || c == 0x2029 ? gunichar(' ') : c;
-    return ligne;
-}
-
 }  // namespace
 
 EltTxt::EltTxt(int type) : EltGeo(type), Police("Arial") {}

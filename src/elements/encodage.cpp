@@ -28,3 +28,10 @@ Glib::ustring EnUtf8(std::string_view texte) {
     }
     return converti;
 }
+
+Glib::ustring EnLigne(const Glib::ustring& texte) {
+    Glib::ustring ligne;
+    for (const gunichar c : texte)
+        ligne += g_unichar_iscntrl(c) || c == 0x2028 || c == 0x2029 ? gunichar(' ') : c;
+    return ligne;
+}

@@ -12,6 +12,9 @@ double Epsilon();
 /// Ten pixels in drawing units: the pick distance.
 double Proche10();
 
+/// The pick distance of the 3D view in drawing units, whatever the zoom.
+constexpr double Proche3D = 10.0;
+
 /// Drawing units to pixels of the area, y downward; not rounded.
 PointVek VersEcran(const PointVek& p);
 

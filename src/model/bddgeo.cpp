@@ -5,6 +5,8 @@
 #include <glibmm/miscutils.h>
 #include <gtkmm/recentmanager.h>
 
+#include <unordered_set>
+
 #include "elements/ecrivain.h"
 #include "elements/eltrectangle.h"
 #include "elements/trace.h"
@@ -62,15 +64,65 @@ EltGeo* BDDGeo::Ajoute(const EltGeo& prototype) {
     return Ajoute(prototype.Clone());
 }
 
-bool BDDGeo::Change(EltGeo& cible, const EltGeo& source) {
-    if (!source.EstFini() || (cible.EstValide() && !source.EstValide())) return false;
-    Annulations.push_back({EnregAnnul::Change, cible.Clone(), &cible});
+namespace {
+
+/// Gives cible the content of source, and children that are counted.
+void Reprend(EltGeo& cible, const EltGeo& source) {
     cible.VideFils();
     cible.Copie(source);
+    // Some solids leave out of their copy what their dialogs change all the same.
+    if (const Elt3d* solide = source.GetElt3d()) cible.ChangeElt3d(*solide);
     cible.ReferenceFils();
+}
+
+/// All that elt holds as children, directly or not, each once and itself left out.
+std::vector<EltGeo*> Tenus(const EltGeo& elt) {
+    std::vector<EltGeo*> tenus;
+    std::unordered_set<const EltGeo*> vus = {&elt};
+    std::vector<const EltGeo*> parents = {&elt};
+    while (!parents.empty()) {
+        const EltGeo* parent = parents.back();
+        parents.pop_back();
+        for (EltGeo* fils : parent->Fils) {
+            if (!vus.insert(fils).second) continue;
+            tenus.push_back(fils);
+            parents.push_back(fils);
+        }
+    }
+    return tenus;
+}
+
+}  // namespace
+
+bool BDDGeo::Change(EltGeo& cible, const EltGeo& source) {
+    if (!source.EstFini() || (cible.EstValide() && !source.EstValide())) return false;
+    auto avant = cible.Clone();
+    Reprend(cible, source);
+    Memorise(cible, std::move(avant));
+    return true;
+}
+
+bool BDDGeo::ChangeEnsemble(EltGeo& cible, const EltGeo& source, const PointVek& v) {
+    const std::vector<EltGeo*> tenus = Tenus(cible);
+    if (!Change(cible, source)) return false;
+    int nombre = 1;
+    for (EltGeo* elt : tenus) {
+        const auto deplace = elt->Clone();
+        deplace->Deplace(v);
+        if (Change(*elt, *deplace)) ++nombre;
+    }
+    if (nombre > 1) Annulations.push_back({EnregAnnul::Ensemble, nullptr, nullptr, nombre});
+    return true;
+}
+
+void BDDGeo::NoteChangement() {
     Table.Perime();
     Modifie = true;
-    return true;
+}
+
+void BDDGeo::Memorise(EltGeo& cible, std::unique_ptr<EltGeo> avant) {
+    Annulations.push_back({EnregAnnul::Change, std::move(avant), &cible});
+    NoteChangement();
 }
 
 bool BDDGeo::Annule() {
@@ -87,9 +139,7 @@ bool BDDGeo::Annule() {
             break;
         case EnregAnnul::Change:
             if (!Elements.Contient(pas.Cible)) break;
-            pas.Cible->VideFils();
-            pas.Cible->Copie(*pas.Element);
-            pas.Cible->ReferenceFils();
+            Reprend(*pas.Cible, *pas.Element);
             Table.Perime();
             break;
         case EnregAnnul::Coupe:
@@ -97,6 +147,10 @@ bool BDDGeo::Annule() {
             break;
         case EnregAnnul::Colle:
             AnnuleColle(pas.Nombre);
+            break;
+        case EnregAnnul::Ensemble:
+            for (; pas.Nombre > 0; --pas.Nombre)
+                Annule();
             break;
     }
     return true;
@@ -161,6 +215,19 @@ EltGeo* BDDGeo::ChercheAutre(const PointVek& p, bool support) {
     const auto autre = [this](const EltGeo& elt) { return &elt != DernierTrouve; };
     EltGeo* trouve = ChercheSelon(p, support, autre, distance);
     return SiProche(trouve, distance);
+}
+
+EltGeo* BDDGeo::Cherche3D(const PointVek& p) const {
+    double distance = vue::Proche3D;
+    EltGeo* trouve = nullptr;
+    for (EltGeo* elt : Elements) {
+        if (!EstVisible(*elt)) continue;
+        const double d = elt->Distance3D(p);
+        if (!(d < distance)) continue;
+        distance = d;
+        trouve = elt;
+    }
+    return trouve;
 }
 
 bool BDDGeo::Efface(const PointVek& p) {

@@ -14,12 +14,12 @@ class EltRectangle;
 
 /// One step that can be undone.
 struct EnregAnnul {
-    enum Genre { Retire = 1, Ajoute = 2, Change = 3, Coupe = 6, Colle = 7 };
+    enum Genre { Retire = 1, Ajoute = 2, Change = 3, Coupe = 6, Colle = 7, Ensemble = 8 };
 
     Genre Quoi;
     std::unique_ptr<EltGeo> Element;  ///< What was removed, or the element as it was before.
     EltGeo* Cible = nullptr;          ///< The element in the list that was added or changed.
-    int Nombre = 0;  ///< For a cut or a paste: how many records before it belong to it.
+    int Nombre = 0;  ///< For what takes several records: how many before it belong to it.
 };
 
 /// The drawing: elements with undo, the searches at a point, and the file.
@@ -48,6 +48,16 @@ class BDDGeo : public BDDGeoBase {
     /// nothing done, when source is not finite or less valid than cible was.
     bool Change(EltGeo& cible, const EltGeo& source);
 
+    /// The same with a source that was moved as a whole by v: all that cible holds, directly or
+    /// not, moves along, once. One step to undo.
+    bool ChangeEnsemble(EltGeo& cible, const EltGeo& source, const PointVek& v);
+
+    /// Tells that an element was changed in place.
+    void NoteChangement();
+
+    /// The same with an undo record, avant being a clone made before the change.
+    void Memorise(EltGeo& cible, std::unique_ptr<EltGeo> avant);
+
     /// Undoes the newest step; false when there is none. `Modifie` stays as it is.
     bool Annule();
 
@@ -60,6 +70,10 @@ class BDDGeo : public BDDGeoBase {
 
     /// The same among all but the one that `ChercheProche` remembered.
     EltGeo* ChercheAutre(const PointVek& p, bool support);
+
+    /// The visible element nearest in space to p, when it is nearer than 10 drawing units whatever
+    /// the view; else null.
+    EltGeo* Cherche3D(const PointVek& p) const;
 
     // Commands on the element at a point; false when there is none. An element that another holds
     // as a child is not removed.

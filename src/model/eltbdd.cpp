@@ -82,6 +82,11 @@ void EltBDD::DessineContenu(Trace& trace) const {
     Contenu.Dessine(trace);
 }
 
+void EltBDD::Dessine3DContenu(DC3D& dc, bool couleur) const {
+    for (const EltGeo* elt : Contenu.Elements)
+        if (Contenu.EstVisible(*elt)) elt->Dessine3D(dc, couleur);
+}
+
 void EltBDD::Sauve(Ecrivain& sortie) const {
     EltGeo::Sauve(sortie);
     sortie << Identificateur.raw() << '\n';

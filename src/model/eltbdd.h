@@ -24,6 +24,9 @@ class EltBDD : public EltGeo {
     /// How many elements that takes, those of groups within the group included.
     int NombrePeints() const;
 
+    /// Draws the bodies of the content in the 3D view, about the origin of the present axes.
+    void Dessine3DContenu(DC3D& dc, bool couleur) const;
+
     /// Replaces the content by clones of the source's elements, in reverse order.
     void CopieListe(const BDDGeoBase& source);
 

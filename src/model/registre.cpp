@@ -17,34 +17,18 @@
 #include "model/eltbdd.h"
 #include "model/eltimage.h"
 
-namespace {
-
-template <class Elt>
-std::unique_ptr<EltGeo> Cree() {
-    return std::make_unique<Elt>();
-}
-
-struct Classe {
-    int Type;
-    std::unique_ptr<EltGeo> (*Cree)();
-};
-
-const Classe Classes[] = {
-    {TypeGeo, Cree<EltGeo>},           {TypeSegment, Cree<EltSegment>},
-    {TypePoint, Cree<EltPoint>},       {TypeArc, Cree<EltArc>},
-    {TypeProfil, Cree<EltProfil>},     {TypeTxt, Cree<EltTxt>},
-    {TypeCote, Cree<EltCote>},         {TypeCoteAng, Cree<EltCoteAng>},
-    {TypeCoteVert, Cree<EltCoteVert>}, {TypeCoteHori, Cree<EltCoteHori>},
-    {TypeCoteDia, Cree<EltCoteDia>},   {TypeCoteRayon, Cree<EltCoteRayon>},
-    {TypeDisque, Cree<EltDisque>},     {TypeRectangle, Cree<EltRectangle>},
-    {TypeDroite, Cree<EltDroite>},     {TypeBDD, Cree<EltBDD>},
-    {TypeImage, Cree<EltImage>},
-};
-
-}  // namespace
-
 std::unique_ptr<EltGeo> CreeElement(int type) {
-    for (const Classe& classe : Classes)
-        if (classe.Type == type) return classe.Cree();
-    return nullptr;
+    static constexpr ClasseElt classes[] = {
+        {TypeGeo, NouvelElt<EltGeo>},           {TypeSegment, NouvelElt<EltSegment>},
+        {TypePoint, NouvelElt<EltPoint>},       {TypeArc, NouvelElt<EltArc>},
+        {TypeProfil, NouvelElt<EltProfil>},     {TypeTxt, NouvelElt<EltTxt>},
+        {TypeCote, NouvelElt<EltCote>},         {TypeCoteAng, NouvelElt<EltCoteAng>},
+        {TypeCoteVert, NouvelElt<EltCoteVert>}, {TypeCoteHori, NouvelElt<EltCoteHori>},
+        {TypeCoteDia, NouvelElt<EltCoteDia>},   {TypeCoteRayon, NouvelElt<EltCoteRayon>},
+        {TypeDisque, NouvelElt<EltDisque>},     {TypeRectangle, NouvelElt<EltRectangle>},
+        {TypeDroite, NouvelElt<EltDroite>},     {TypeBDD, NouvelElt<EltBDD>},
+        {TypeImage, NouvelElt<EltImage>},
+    };
+    auto elt = CreeParmi(classes, type);
+    return elt ? std::move(elt) : CreeSolide(type);
 }

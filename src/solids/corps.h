@@ -6,6 +6,8 @@
 #include "elements/trait.h"
 #include "solids/elt3d.h"
 
+class DC3D;
+
 // What the bodies of solids share. All of it acts on the present GL context.
 
 /// While it lives, the axes are those of a solid at position.
@@ -17,6 +19,22 @@ class RepereLocal {
     RepereLocal& operator=(const RepereLocal&) = delete;
 };
 
+/// How a body of height h is drawn: upward for `Hauteur`, which is never negative. For a negative h
+/// the axes are mirrored, and the sense of what is drawn in them with it, so that the outside stays
+/// the outside. Made within a `RepereLocal`, whose end takes it back.
+class Elevation {
+  public:
+    explicit Elevation(double h);
+
+    /// Sets which faces are front ones: `GL_CW` or `GL_CCW`.
+    void Sens(GLenum sens) const;
+
+    const double Hauteur;
+
+  private:
+    const bool Renversee;
+};
+
 /// A quadric that is filled, smooth and textured.
 class Quadrique {
   public:
@@ -25,6 +43,9 @@ class Quadrique {
     ~Quadrique();
     Quadrique(const Quadrique&) = delete;
     Quadrique& operator=(const Quadrique&) = delete;
+
+    // Slices and stacks are lowered to what one solid may cost. A measure that GLU has no use for,
+    // such as a negative radius, draws nothing.
 
     void Cylindre(double bas, double haut, double hauteur, int facettes) const;
     void Disque(double rayon, int facettes) const;
@@ -40,9 +61,12 @@ void ColoreCorps(const Trait& trait, bool couleur, double ecart = 0.0);
 /// Textures repeat, or end at their edge.
 void Enroule(bool repetition);
 
+/// Selects the solid's texture for what follows, wrapped as it says; white when porte is false.
+void Habille(DC3D& dc, const Elt3d& solide, bool porte);
+
 /// The normal of the triangle a b c, negated when sens is false; not of unit length. False when the
 /// triangle is degenerate: the normal is set all the same.
 bool PoseNormale(const PointVek& a, const PointVek& b, const PointVek& c, bool sens = true);
 
-/// The wire box from (-a, -b, bas) to (a, b, haut): what marks a solid as selected.
+/// The white wire box from (-a, -b, bas) to (a, b, haut): what marks a solid as selected.
 void DessineCage(double a, double b, double bas, double haut);

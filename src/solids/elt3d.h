@@ -19,7 +19,10 @@ class Elt3d {
     /// Takes every field.
     void Copie(const Elt3d& source);
 
-    /// Takes what the dialogs of all solids change: height, angles, texture, finish; and wrapping.
+    /// Takes height, angles, texture and its wrapping.
+    void CopieForme(const Elt3d& source);
+
+    /// Takes what the dialogs of all solids change: the same and the finish.
     void CopieCommun(const Elt3d& source);
 
     /// Takes which faces bear the texture.

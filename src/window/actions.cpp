@@ -245,7 +245,8 @@ const std::vector<LigneAction>& TableActions() {
         Icone("Boa", "_Boa", "Cliquer sur le centre, le profil tracé, le profil enveloppe",
               ETAT_BOA_1),
         Icone("Vue3D", "_Vue 3D", "ouverture/fermeture de la fenêtre 3D", &DessinWindow::Vue3D),
-        Icone("SurfacePref", "_Surface Pref", "dimension du tableau de points"),
+        Icone("SurfacePref", "_Surface Pref", "dimension du tableau de points",
+              &DessinWindow::SurfacePref),
     };
     return table;
 }

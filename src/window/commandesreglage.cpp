@@ -4,6 +4,7 @@
 
 #include "dialogs/demandecouleur.h"
 #include "dialogs/elttxtdialog.h"
+#include "dialogs/int2dialog.h"
 #include "dialogs/intdialog.h"
 #include "dialogs/prefcotedialog.h"
 #include "dialogs/reeldialog.h"
@@ -73,6 +74,15 @@ void DessinWindow::PrefCote() {
     Zone.Protos.DiffuseCote();
     // Values are shown with the new decimals, in a drag's preview as well.
     Zone.DessinChange();
+}
+
+void DessinWindow::SurfacePref() {
+    EltProfilSurface& surface = Zone.Protos.ProfilSurface;
+    int lignes = surface.nbX, colonnes = surface.nbY;
+    Int2Dialog dialogue("Nombre de lignes / Nombre de Colonnes", &lignes, &colonnes);
+    if (dialogue.run() != Gtk::RESPONSE_OK) return;
+    surface.SetNbX(lignes);
+    surface.SetNbY(colonnes);
 }
 
 void DessinWindow::CouleurFond() {

@@ -22,7 +22,8 @@ constexpr char InviteLongue[] = "Nouvelle position, appuyer sur Ctrl pour faire 
 }  // namespace
 
 DessinWindow::DessinWindow()
-    : LabelX("XXXX"),
+    : Fenetre3D(BddCourante),
+      LabelX("XXXX"),
       LabelY("YYYY"),
       LabelAction("Action demandée"),
       LabelCalques("Calques"),
@@ -44,12 +45,7 @@ DessinWindow::DessinWindow()
     Zone.set_size_request(-1, -1);
     modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));
 
-    Fenetre3D.set_title("KR VEK 3D");
-    Fenetre3D.set_default_size(800, 600);
-    Fenetre3D.signal_delete_event().connect([this](GdkEventAny*) {
-        Fenetre3D.hide();
-        return true;
-    });
+    Fenetre3D.SignalEdition().connect(sigc::mem_fun(Zone, &ZoneDessin::DessinChange));
 
     Gtk::IconTheme::get_default()->append_search_path(
         Glib::build_filename(DossierDonnees(), "icons"));

@@ -11,6 +11,7 @@
 
 #include <string>
 
+#include "view3d/window3d.h"
 #include "window/actions.h"
 #include "zone/zonedessin.h"
 
@@ -64,6 +65,7 @@ class DessinWindow : public Gtk::Window {
     void CollerK();
     void PrefTxt();
     void PrefCote();
+    void SurfacePref();
     void CouleurFond();
     void BoiteAOutil();
     void Etat();
@@ -104,7 +106,7 @@ class DessinWindow : public Gtk::Window {
     void ConstruitMenus();
 
     ZoneDessin Zone;
-    Gtk::Window Fenetre3D;
+    Window3D Fenetre3D;
     Gtk::VBox BoiteVerticale;
     Gtk::VBox BoiteMenu;
     Gtk::HBox BoiteEtat;

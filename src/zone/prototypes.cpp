@@ -3,8 +3,21 @@
 template <class Action>
 void Prototypes::Chacun(const Action& action) {
     const std::initializer_list<EltGeo*> prototypes = {
-        &Point,    &Droite,  &Segment,   &Arc,     &Disque,    &Txt,    &Cote,  &CoteVert,
-        &CoteHori, &CoteDia, &CoteRayon, &CoteAng, &Rectangle, &Profil, &Image,
+        &Point,          &Droite,
+        &Segment,        &Arc,
+        &Disque,         &Txt,
+        &Cote,           &CoteVert,
+        &CoteHori,       &CoteDia,
+        &CoteRayon,      &CoteAng,
+        &Rectangle,      &Profil,
+        &Image,          &Pave,
+        &Sphere,         &Cylindre,
+        &Percage,        &EnvBoule,
+        &Rainure,        &ProfilElevation,
+        &ProfilTourne,   &ProfilSurface,
+        &ProfilRuban,    &ProfilEvantail,
+        &RainureP,       &Image3d,
+        &ProfilTubeRond, &ProfilBoaRond,
     };
     for (EltGeo* elt : prototypes)
         action(*elt);

@@ -15,6 +15,20 @@
 #include "elements/eltsegment.h"
 #include "elements/elttxt.h"
 #include "model/eltimage.h"
+#include "solids/eltcylindre.h"
+#include "solids/eltenvboule.h"
+#include "solids/eltimage3d.h"
+#include "solids/eltpave.h"
+#include "solids/eltpercage.h"
+#include "solids/eltprofilboarond.h"
+#include "solids/eltprofilevantail.h"
+#include "solids/eltprofilruban.h"
+#include "solids/eltprofilsurface.h"
+#include "solids/eltprofiltourne.h"
+#include "solids/eltprofiltuberond.h"
+#include "solids/eltrainure.h"
+#include "solids/eltrainurep.h"
+#include "solids/eltsphere.h"
 
 /// One scratch element of each class: a tool fills it click after click, previews it, and a copy of
 /// it goes into the drawing. Each keeps the style and layer given last.
@@ -34,6 +48,21 @@ struct Prototypes {
     EltRectangle Rectangle;
     EltProfil Profil;
     EltImage Image;
+    EltPave Pave;
+    EltSphere Sphere;
+    EltCylindre Cylindre;
+    EltProfilElevation ProfilElevation;
+    EltProfilTourne ProfilTourne;
+    EltProfilSurface ProfilSurface;
+    EltProfilRuban ProfilRuban;
+    EltProfilEvantail ProfilEvantail;
+    EltPercage Percage;
+    EltEnvBoule EnvBoule;
+    EltRainure Rainure;
+    EltRainureP RainureP;
+    EltImage3d Image3d;
+    EltProfilTubeRond ProfilTubeRond;
+    EltProfilBoaRond ProfilBoaRond;
 
     void DiffuseTrait(const Trait& trait);
     void SetCalque(int calque);

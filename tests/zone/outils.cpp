@@ -175,5 +175,9 @@ INSTANTIATE_TEST_SUITE_P(
               nullptr,
               {{50, -30}, {-40, 60}},
               14,
-              "-40 60 0 50 -30 0"}),
+              "-40 60 0 50 -30 0"},
+        // Of these the last line is the texture, and the radius of the top.
+        Geste{"Pave", ETAT_PAVE_1, nullptr, {{50, -30}, {-40, 60}}, 19, ""},
+        Geste{"Sphere", ETAT_SPHERE_1, nullptr, {{20, -10}, {50, 30}}, 22, ""},
+        Geste{"Cylindre", ETAT_CYLINDRE_1, nullptr, {{20, -10}, {50, 30}}, 21, "50"}),
     [](const testing::TestParamInfo<Geste>& cas) { return std::string(cas.param.Nom); });

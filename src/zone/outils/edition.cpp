@@ -26,10 +26,14 @@ std::unique_ptr<EltGeo> Deplace(const ZoneDessin& zone, const PointVek& p) {
 /// What cannot be, such as a segment brought to a point, is not placed, and the drag goes on.
 bool Pose(ZoneDessin& zone, const PointVek& p) {
     auto deforme = Deplace(zone, p);
+    bool pose;
     // Only the left key makes a copy.
-    const bool pose = zone.Touche == GDK_Control_L
-                          ? BddCourante.Ajoute(std::move(deforme)) != nullptr
-                          : BddCourante.Change(*zone.EltCourant, *deforme);
+    if (zone.Touche == GDK_Control_L)
+        pose = BddCourante.Ajoute(std::move(deforme)) != nullptr;
+    else if (PoigneeCourante == 1)
+        pose = BddCourante.ChangeEnsemble(*zone.EltCourant, *deforme, p - zone.PointDepart);
+    else
+        pose = BddCourante.Change(*zone.EltCourant, *deforme);
     zone.DessinChange();
     return pose;
 }

@@ -2,20 +2,61 @@
 
 #include <vector>
 
-#include "zone/ligneetat.h"
+#include "zone/outils/chaines.h"
+
+namespace {
+
+/// The grid lies on the rectangle, whichever way that was drawn.
+bool FinSurface(ZoneDessin& zone, const PointVek& p) {
+    zone.Protos.Rectangle.SetExtremite(p);
+    const auto coins = zone.Protos.Rectangle.Coins();
+    const PointVek coin = coins.BasGauche(), cotes = coins.HautDroite() - coin;
+    zone.Protos.ProfilSurface.Place(coin);
+    zone.Protos.ProfilSurface.Grille(cotes.x, cotes.y);
+    zone.Ajoute(zone.Protos.ProfilSurface);
+    return true;
+}
+
+}  // namespace
 
 std::vector<LigneEtat> LignesSurfaces() {
+    constexpr auto rectangle = &Prototypes::Rectangle;
+    constexpr auto surface = &Prototypes::ProfilSurface;
+    constexpr auto ruban = &Prototypes::ProfilRuban;
+    constexpr auto evantail = &Prototypes::ProfilEvantail;
     return {
-        LigneEtat(ETAT_SURFACE_PROFIL_1, ETAT_SURFACE_PROFIL_1, "?"),
-        LigneEtat(ETAT_SURFACE_PROFIL_2, ETAT_SURFACE_PROFIL_1, "?"),
-        LigneEtat(ETAT_SURFACE_PROFIL_3, ETAT_SURFACE_PROFIL_1, "?"),
-        LigneEtat(ETAT_SURFACE_1, ETAT_SURFACE_1, "?"),
-        LigneEtat(ETAT_SURFACE_2, ETAT_SURFACE_1, "?"),
-        LigneEtat(ETAT_RUBAN_1, ETAT_RUBAN_1, "?"),
-        LigneEtat(ETAT_RUBAN_2, ETAT_RUBAN_1, "?"),
-        LigneEtat(ETAT_RUBAN_3, ETAT_RUBAN_1, "?"),
-        LigneEtat(ETAT_EVANTAIL_1, ETAT_EVANTAIL_1, "?"),
-        LigneEtat(ETAT_EVANTAIL_2, ETAT_EVANTAIL_1, "?"),
-        LigneEtat(ETAT_EVANTAIL_3, ETAT_EVANTAIL_1, "?"),
+        LigneEtat(ETAT_SURFACE_PROFIL_1, ETAT_SURFACE_PROFIL_1, "?")
+            .AuClic(PrendCentreProfil<surface>, ETAT_SURFACE_PROFIL_2),
+        LigneEtat(ETAT_SURFACE_PROFIL_2, ETAT_SURFACE_PROFIL_1, "?")
+            .AuClic(PrendSommet<surface>, ETAT_SURFACE_PROFIL_3)
+            .Montre(ApercuChaine<surface>),
+        LigneEtat(ETAT_SURFACE_PROFIL_3, ETAT_SURFACE_PROFIL_1, "?")
+            .AuClic(PrendSommet<surface>, ETAT_SURFACE_PROFIL_3)
+            .Montre(ApercuChaine<surface>)
+            .ALaFin(FinChaine<surface>, ETAT_SURFACE_PROFIL_1),
+
+        LigneEtat(ETAT_SURFACE_1, ETAT_SURFACE_1, "?").AuClic(PrendCoin<rectangle>, ETAT_SURFACE_2),
+        LigneEtat(ETAT_SURFACE_2, ETAT_SURFACE_1, "?")
+            .AuClic(FinSurface, ETAT_SURFACE_1)
+            .Montre(ApercuCoins<rectangle>),
+
+        LigneEtat(ETAT_RUBAN_1, ETAT_RUBAN_1, "?").AuClic(PrendCentreProfil<ruban>, ETAT_RUBAN_2),
+        LigneEtat(ETAT_RUBAN_2, ETAT_RUBAN_1, "?")
+            .AuClic(PrendSommet<ruban>, ETAT_RUBAN_3)
+            .Montre(ApercuChaine<ruban>),
+        LigneEtat(ETAT_RUBAN_3, ETAT_RUBAN_1, "?")
+            .AuClic(PrendSommet<ruban>, ETAT_RUBAN_3)
+            .Montre(ApercuChaine<ruban>)
+            .ALaFin(FinChaine<ruban>, ETAT_RUBAN_1),
+
+        LigneEtat(ETAT_EVANTAIL_1, ETAT_EVANTAIL_1, "?")
+            .AuClic(PrendCentreProfil<evantail>, ETAT_EVANTAIL_2),
+        LigneEtat(ETAT_EVANTAIL_2, ETAT_EVANTAIL_1, "?")
+            .AuClic(PrendSommet<evantail>, ETAT_EVANTAIL_3)
+            .Montre(ApercuChaine<evantail>),
+        LigneEtat(ETAT_EVANTAIL_3, ETAT_EVANTAIL_1, "?")
+            .AuClic(PrendSommet<evantail>, ETAT_EVANTAIL_3)
+            .Montre(ApercuChaine<evantail>)
+            .ALaFin(FinChaine<evantail>, ETAT_EVANTAIL_1),
     };
 }

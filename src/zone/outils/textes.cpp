@@ -31,11 +31,13 @@ bool DemandeTexte(ZoneDessin& zone) {
     return true;
 }
 
+template <auto Proto>
 bool DemandeImage(ZoneDessin& zone) {
-    Glib::ustring nom = zone.Protos.Image.Identificateur;
+    EltImage& image = zone.Protos.*Proto;
+    Glib::ustring nom = image.Identificateur;
     StringDialog dialogue("Identificateur de la BDD ?", &nom);
     if (dialogue.run() != Gtk::RESPONSE_OK) return false;
-    zone.Protos.Image.SetIdentificateur(nom);
+    image.SetIdentificateur(nom);
     return true;
 }
 
@@ -52,9 +54,12 @@ std::vector<LigneEtat> LignesTextes() {
             .Montre(Apercu<&Prototypes::Txt>)
             .Pointe(Gdk::TCROSS),
         LigneEtat(ETAT_IMAGE, ETAT_IMAGE, "Position de l'image de BDD")
-            .Demande(DemandeImage)
+            .Demande(DemandeImage<&Prototypes::Image>)
             .AuClic(Place<&Prototypes::Image>, ETAT_IMAGE)
             .Montre(Apercu<&Prototypes::Image>),
-        LigneEtat(ETAT_IMAGE3D, ETAT_IMAGE3D, "Position de l'image de BDD"),
+        LigneEtat(ETAT_IMAGE3D, ETAT_IMAGE3D, "Position de l'image de BDD")
+            .Demande(DemandeImage<&Prototypes::Image3d>)
+            .AuClic(Place<&Prototypes::Image3d>, ETAT_IMAGE3D)
+            .Montre(Apercu<&Prototypes::Image3d>),
     };
 }

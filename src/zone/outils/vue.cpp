@@ -34,7 +34,7 @@ std::vector<LigneEtat> LignesVue() {
         LigneEtat(ETAT_ZOOM_ORIGINE, ETAT_ZOOM_ORIGINE, "Position du nouveau centre de la vue")
             .AuClic(CentreVue, ETAT_ZOOM_ORIGINE),
         LigneEtat(ETAT_ZOOM_1, ETAT_ZOOM_1, "Zoom Position haut gauche")
-            .AuClic(PrendPremierCoin, ETAT_ZOOM_2),
+            .AuClic(PrendCoin<&Prototypes::Rectangle>, ETAT_ZOOM_2),
         LigneEtat(ETAT_ZOOM_2, ETAT_ZOOM_1, "Zoom Position bas droite")
             .AuClic(Zoome, ETAT_ZOOM_1)
             .Montre(ApercuCadre),

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "dialogs/saisiedialog.h"
+
+/// Asks for two whole numbers; what is typed is rounded.
+class Int2Dialog : public SaisieDialog {
+  public:
+    /// Both values are the caller's and outlive the dialog.
+    Int2Dialog(const Glib::ustring& titre, int* premier, int* second);
+
+  protected:
+    void Prend() override;
+
+  private:
+    int* Valeurs[2];
+    ChampSaisie Premier;
+    ChampSaisie Second;
+};

@@ -1,0 +1,77 @@
+#include "solids/eltimage3d.h"
+
+#include "elements/angles.h"
+#include "model/bddgeo.h"
+#include "model/eltbdd.h"
+#include "solids/corps.h"
+
+namespace {
+
+/// Images inside images are painted down to this depth, which is what stops a group that holds an
+/// image of itself.
+constexpr int ProfondeurMax = 10;
+
+/// What one image paints, with those inside it.
+constexpr int ContenusMax = 100000;
+
+int Profondeur = 0;
+int ContenusPeints = 0;
+
+}  // namespace
+
+EltImage3d::EltImage3d() {
+    Type = TypeImage3d;
+}
+
+std::unique_ptr<EltGeo> EltImage3d::Clone() const {
+    return std::make_unique<EltImage3d>(*this);
+}
+
+void EltImage3d::Copie(const EltGeo& source) {
+    EltImage::Copie(source);
+    Elt3d::Copie(static_cast<const EltImage3d&>(source));
+}
+
+void EltImage3d::ChangeElt3d(const Elt3d& source) {
+    CopieCommun(source);
+    CopieFaces(source);
+    echelleTexture = source.echelleTexture;
+}
+
+void EltImage3d::Sauve(Ecrivain& sortie) const {
+    EltImage::Sauve(sortie);
+    Elt3d::Sauve(sortie);
+}
+
+void EltImage3d::Charge(Lecteur& entree) {
+    EltImage::Charge(entree);
+    Elt3d::Charge(entree);
+}
+
+bool EltImage3d::EstFini() const {
+    return EltImage::EstFini() && Elt3d::EstFini();
+}
+
+void EltImage3d::Dessine3D(DC3D& dc, bool couleur) const {
+    // Both turn about the same axis.
+    Elt3d axes(*this);
+    axes.alpha += EnDegres(Angle);
+    const RepereLocal repere(Position, axes);
+    if (Profondeur == 0) ContenusPeints = 0;
+    ++Profondeur;
+    if (Profondeur < ProfondeurMax) DessineGroupe3D(dc, couleur);
+    --Profondeur;
+}
+
+void EltImage3d::DessineGroupe3D(DC3D& dc, bool couleur) const {
+    const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
+    if (!groupe || groupe->Contenu.Elements.Nombre() > ContenusMax - ContenusPeints) return;
+    ContenusPeints += groupe->Contenu.Elements.Nombre();
+    groupe->Dessine3DContenu(dc, couleur);
+}
+
+// It does not turn with the image: that is meant.
+void EltImage3d::DessineFilaire(DC3D&) const {
+    const RepereLocal repere(Position, Elt3d());
+    DessineCage(20.0, 20.0, 0.0, 20.0);
+}

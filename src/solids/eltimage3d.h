@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/eltimage.h"
+#include "solids/elt3d.h"
+
+/// Shows the solids of a named group in space, at its own place and turned, without holding them;
+/// what their holes take away is not taken away here. On the sheet it is the group's image.
+class EltImage3d : public EltImage, public Elt3d {
+  public:
+    EltImage3d();
+
+    std::unique_ptr<EltGeo> Clone() const override;
+
+    /// Takes every attribute.
+    void Copie(const EltGeo& source) override;
+    void Sauve(Ecrivain& sortie) const override;
+    void Charge(Lecteur& entree) override;
+    bool EstFini() const override;
+    bool Proprietes() override;
+
+    void Dessine3D(DC3D& dc, bool couleur) const override;
+    void DessineFilaire(DC3D& dc) const override;
+    Elt3d* GetElt3d() override { return this; }
+    void ChangeElt3d(const Elt3d& source) override;
+
+  private:
+    void DessineGroupe3D(DC3D& dc, bool couleur) const;
+};

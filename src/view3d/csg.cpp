@@ -1,0 +1,142 @@
+// The driver of the passes that show a solid less its holes and grooves. The subtraction exists in
+// the picture alone: it is made per pixel, with the stencil and the depth.
+
+#include <GL/gl.h>
+
+#include "solids/eltenvboule.h"
+#include "solids/soustractif.h"
+#include "view3d/corpscompiles.h"
+#include "view3d/dc3d.h"
+
+namespace {
+
+void DessineNu(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
+    const Soustractif* creux = CommeSoustractif(elt);
+    if (creux && partie == Partie::Paroi)
+        creux->DessineParoi(dc, couleur);
+    else if (creux && partie == Partie::Fonds)
+        creux->DessineFonds(dc, couleur);
+    else if (const EltEnvBoule* boule = CommeEnveloppe(elt))
+        boule->DessineBoule(dc, couleur);
+    else
+        elt.Dessine3D(dc, couleur);
+}
+
+void DessinePartie(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
+    dc.Corps().Dessine(elt, partie, couleur,
+                       [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); });
+}
+
+ZonePixels ZoneDe(DC3D& dc, const EltGeo& elt, Partie partie) {
+    return dc.ZoneDe(dc.Corps().EtendueDe(
+        elt, partie, [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); }));
+}
+
+ZonePixels ZoneCreux(DC3D& dc, const EltGeo& creux) {
+    return ZoneDe(dc, creux, Partie::Paroi).Reunie(ZoneDe(dc, creux, Partie::Fonds));
+}
+
+/// Where the solid and all that its passes draw appear.
+ZonePixels ZoneSolide(DC3D& dc, const EltGeo& solide) {
+    ZonePixels zone = ZoneDe(dc, solide, Partie::Corps);
+    for (const EltGeo* fils : solide.Fils) {
+        if (CommeSoustractif(*fils))
+            zone = zone.Reunie(ZoneCreux(dc, *fils));
+        else if (CommeEnveloppe(*fils))
+            zone = zone.Reunie(ZoneDe(dc, *fils, Partie::Corps));
+    }
+    return zone;
+}
+
+/// Draws the envelopes; from the first hole or groove on only their depth, and that there was one
+/// is the answer. An envelope before it is painted as it stands: that is meant.
+bool DessineEnveloppes(DC3D& dc, const EltGeo& solide) {
+    bool creuse = false;
+    for (const EltGeo* fils : solide.Fils) {
+        if (CommeSoustractif(*fils) && !creuse) {
+            creuse = true;
+            dc.DebutEnveloppe();
+        } else if (CommeEnveloppe(*fils)) {
+            DessinePartie(dc, *fils, Partie::Corps, true);
+        }
+    }
+    return creuse;
+}
+
+/// Leaves in the depth buffer the near sides of what is inside the solid and all envelopes.
+void TailleDehors(DC3D& dc, const EltGeo& solide) {
+    DessinePartie(dc, solide, Partie::Corps, false);
+    dc.EtatCompte();
+    for (const EltGeo* fils : solide.Fils) {
+        if (!CommeEnveloppe(*fils)) continue;
+        DessinePartie(dc, *fils, Partie::Corps, false);
+        dc.CompteUn();
+    }
+    dc.CompteUn();
+    DessinePartie(dc, solide, Partie::Corps, false);
+    dc.EffaceHorsCompte();
+}
+
+/// Writes the walls of a hole or groove into the depth where its mouth shows, then its bottom, or
+/// the far plane where it goes through. Caps that only cover pixels are drawn in white: they may be
+/// coarser inside their outline than those that are painted.
+void Creuse(DC3D& dc, const EltGeo& fils, const Soustractif& creux) {
+    dc.EtatMarqueCreux();
+    DessinePartie(dc, fils, Partie::Fonds, false);
+    dc.EtatCreux();
+    dc.EtatFondVisible();
+    DessinePartie(dc, fils, Partie::Paroi, true);
+    if (creux.debouchant) dc.EtatFondOuvert();
+    DessinePartie(dc, fils, Partie::Fonds, !creux.debouchant);
+}
+
+/// One after the other, or each would show the walls of the others through its own mouth.
+void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
+    for (const EltGeo* fils : solide.Fils) {
+        const Soustractif* creux = CommeSoustractif(*fils);
+        if (!creux) continue;
+        const ZonePixels place = ZoneCreux(dc, *fils);
+        if (place.EstVide()) continue;
+        dc.Limite(place);
+        Creuse(dc, *fils, *creux);
+    }
+    dc.Limite(zone);
+}
+
+/// Paints what the depth buffer holds of the envelopes, walls and bottoms.
+void PeintCreux(DC3D& dc, const EltGeo& solide) {
+    for (const EltGeo* fils : solide.Fils) {
+        if (CommeEnveloppe(*fils)) DessinePartie(dc, *fils, Partie::Corps, true);
+        const Soustractif* creux = CommeSoustractif(*fils);
+        if (!creux) continue;
+        DessinePartie(dc, *fils, Partie::Paroi, true);
+        if (!creux->debouchant) DessinePartie(dc, *fils, Partie::Fonds, true);
+    }
+}
+
+}  // namespace
+
+void EltGeo::DessinePoint3D() const {
+    glColor4f(1.0f, 1.0f, 1.0f, 1.0f);
+    glBegin(GL_POINTS);
+    glVertex3d(Position.x, Position.y, Position.z);
+    glEnd();
+}
+
+void EltGeo::Dessine3DCSG(DC3D& dc) const {
+    // A plane element has no body, and leaves the state as it is.
+    if (Type < TypePave && Fils.Nombre() == 0) return;
+    const ZonePixels zone = ZoneSolide(dc, *this);
+    if (zone.EstVide()) return;
+    if (Fils.Nombre() > 0) dc.Limite(zone);
+    if (DessineEnveloppes(dc, *this)) {
+        TailleDehors(dc, *this);
+        CreuseTout(dc, *this, zone);
+        dc.FusionneProfondeur();
+        dc.EtatCouleurEgale();
+        PeintCreux(dc, *this);
+    }
+    DessinePartie(dc, *this, Partie::Corps, true);
+    dc.FinLimite();
+    dc.EtatNormal();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <vector>
+
+#include "elements/pointvek.h"
+
+// An independent answer to what the 3D view shows: one ray a pixel, cut with convex bodies.
+
+/// A body in its own axes: a box of half sides A and B, a cylinder of radius A, both from z = 0 to
+/// H, or a ball of radius A. Turned by Alpha, Beta, Gamma degrees about Z, Y, X, X first.
+struct Forme {
+    enum Genre { Pave, Cylindre, Boule } Quoi;
+    PointVek Position;
+    double A, B, H;
+    int Couleur;  ///< 1 to 6: which of red (1), green (2), blue (4) it is made of.
+    double Alpha = 0.0;
+    double Beta = 0.0;
+    double Gamma = 0.0;
+};
+
+struct Creux {
+    Forme Place;
+    bool Debouchant;
+};
+
+struct Solide {
+    Forme Corps;
+    std::vector<Creux> Enleves;
+};
+
+/// Where the scene is seen from: translation, then turned as a body is.
+struct Vue {
+    PointVek Translation;
+    double Alpha, Beta, Gamma;
+};
+
+/// The translation that brings the origin to that distance before the eye.
+PointVek TranslationRecul(const Vue& vue, double distance);
+
+/// The first surface that the ray of a pixel meets.
+struct Touche {
+    int Couleur = 0;          ///< 0 for none.
+    double Profondeur = 1.0;  ///< As the depth buffer tells it.
+};
+
+/// The pixel at column x and row y from below, of a square picture of that side.
+Touche Lance(const std::vector<Solide>& scene, const Vue& vue, int x, int y, int cote);
