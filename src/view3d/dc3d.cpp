@@ -29,7 +29,8 @@ void DC3D::Init(const Glib::RefPtr<Gdk::Window>& fenetre) {
         !Plateforme->RendCourant())
         throw DC3DException();
     Fenetre = fenetre;
-    glEnable(GL_LIGHT0);
+    AllumeLumiere(0, Allumees[0]);
+    AllumeLumiere(1, Allumees[1]);
     Materiau(1.0f, 0.0f, 0.0f, 0.0f);
     PositionLumiere(0, {0.0, 100.0, 100.0});
     PositionLumiere(1, {0.0, 100.0, 0.0});
@@ -91,10 +92,10 @@ void DC3D::AllumeLumiere(int indice, bool allumee) {
 }
 
 void DC3D::DebutImage() {
-    Fenetre->get_size(Largeur_, Hauteur_);
-    Oeil.Projette(Largeur_, Hauteur_);
+    Fenetre->get_size(Largeur, Hauteur);
+    Oeil.Projette(Largeur, Hauteur);
     glMatrixMode(GL_MODELVIEW);
-    Zone = {0, 0, Largeur_, Hauteur_};
+    Zone = {0, 0, Largeur, Hauteur};
     Compiles->DebutImage();
     glClearDepth(1.0);
     glDepthMask(GL_TRUE);

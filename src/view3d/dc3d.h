@@ -52,8 +52,11 @@ class DC3D {
     DC3D(const DC3D&) = delete;
     DC3D& operator=(const DC3D&) = delete;
 
-    /// Selects the texture of that file for what is drawn next; white for an empty name.
+    /// Selects the texture of that file for what is drawn next; white for an empty name. With the
+    /// textures off the one bound last stays.
     void ActiveTexture(const Glib::ustring& nom);
+
+    /// What was drawn with it is done; there is nothing to do.
     void FinTexture() {}
 
     // Set-up.
@@ -142,9 +145,6 @@ class DC3D {
     /// The bodies of solids compiled for this context.
     CorpsCompiles& Corps() { return *Compiles; }
 
-    int Largeur() const { return Largeur_; }
-    int Hauteur() const { return Hauteur_; }
-
     Camera Oeil;
 
   private:
@@ -161,6 +161,6 @@ class DC3D {
     int CompteStencil = 0;           ///< The stencil value that counts as inside.
     std::vector<float> Profondeurs;  ///< The scene's depth within `Zone`.
     ZonePixels Zone;                 ///< What drawing is confined to.
-    int Largeur_ = 0;                ///< Of the picture in pixels.
-    int Hauteur_ = 0;
+    int Largeur = 0;                 ///< Of the picture in pixels.
+    int Hauteur = 0;
 };

@@ -60,7 +60,7 @@ ZonePixels ZonePixels::Reunie(const ZonePixels& autre) const {
 }
 
 ZonePixels DC3D::ZoneDe(const Etendue& boite) const {
-    const ZonePixels tout{0, 0, Largeur_, Hauteur_};
+    const ZonePixels tout{0, 0, Largeur, Hauteur};
     if (!boite.Bornee) return tout;
     constexpr int marge = 2;  // For rounding, here and in GL.
     const PointVek recul = Oeil.Recul();
@@ -71,8 +71,8 @@ ZonePixels DC3D::ZoneDe(const Etendue& boite) const {
                                          coin & 4 ? boite.Haut.z : boite.Bas.z}) +
                            recul;
         if (!(-p.z > Oeil.ZProche)) return tout;
-        const double echelle = 1.0 / (-p.z * Oeil.TaillePixel(Hauteur_));
-        const double x = Largeur_ / 2.0 + p.x * echelle, y = Hauteur_ / 2.0 + p.y * echelle;
+        const double echelle = 1.0 / (-p.z * Oeil.TaillePixel(Hauteur));
+        const double x = Largeur / 2.0 + p.x * echelle, y = Hauteur / 2.0 + p.y * echelle;
         gauche = std::min(gauche, x);
         droite = std::max(droite, x);
         bas = std::min(bas, y);
@@ -81,9 +81,8 @@ ZonePixels DC3D::ZoneDe(const Etendue& boite) const {
     const auto borne = [](double valeur, int limite) {
         return static_cast<int>(std::clamp(std::floor(valeur), 0.0, static_cast<double>(limite)));
     };
-    const int x = borne(gauche - marge, Largeur_), y = borne(bas - marge, Hauteur_);
-    return {x, y, borne(droite + marge + 1.0, Largeur_) - x,
-            borne(haut + marge + 1.0, Hauteur_) - y};
+    const int x = borne(gauche - marge, Largeur), y = borne(bas - marge, Hauteur);
+    return {x, y, borne(droite + marge + 1.0, Largeur) - x, borne(haut + marge + 1.0, Hauteur) - y};
 }
 
 void DC3D::Limite(const ZonePixels& zone) {
@@ -93,7 +92,7 @@ void DC3D::Limite(const ZonePixels& zone) {
 }
 
 void DC3D::FinLimite() {
-    Zone = {0, 0, Largeur_, Hauteur_};
+    Zone = {0, 0, Largeur, Hauteur};
     glDisable(GL_SCISSOR_TEST);
 }
 
@@ -210,7 +209,7 @@ void DC3D::EcritProfondeur() {
     const RepereImage repere;
     glDrawBuffer(GL_BACK);
     MasqueCouleur(GL_FALSE);
-    glRasterPos3d(2.0 * Zone.X / Largeur_ - 1.0, 2.0 * Zone.Y / Hauteur_ - 1.0, 0.0);
+    glRasterPos3d(2.0 * Zone.X / Largeur - 1.0, 2.0 * Zone.Y / Hauteur - 1.0, 0.0);
     glDrawPixels(Zone.Largeur, Zone.Hauteur, GL_DEPTH_COMPONENT, GL_FLOAT, Profondeurs.data());
 }
 

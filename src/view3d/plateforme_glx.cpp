@@ -11,7 +11,7 @@ struct PlateformeGL::Natif {
     ::Display* Ecran = nullptr;
     GLXFBConfig Format = nullptr;
     VisualID Visuel = 0;
-    ::Window Fenetre = 0;
+    GLXWindow Fenetre = 0;
     GLXContext Contexte = nullptr;
 };
 
@@ -91,12 +91,16 @@ bool PlateformeGL::PoseFormat(Gtk::Widget& widget) {
 
 bool PlateformeGL::LieFenetre(const Glib::RefPtr<Gdk::Window>& fenetre) {
     if (!gdk_window_ensure_native(fenetre->gobj())) return false;
-    Partie->Fenetre = gdk_x11_drawable_get_xid(GDK_DRAWABLE(fenetre->gobj()));
-    return true;
+    const XID natif = gdk_x11_drawable_get_xid(GDK_DRAWABLE(fenetre->gobj()));
+    // A refusal comes as an error of X, which would end the program.
+    gdk_error_trap_push();
+    Partie->Fenetre = glXCreateWindow(Partie->Ecran, Partie->Format, natif, nullptr);
+    XSync(Partie->Ecran, False);
+    if (gdk_error_trap_pop() != 0) Partie->Fenetre = 0;
+    return Partie->Fenetre != 0;
 }
 
 bool PlateformeGL::CreeContexte() {
-    // A refusal comes as an error of X, which would end the program.
     gdk_error_trap_push();
     Partie->Contexte =
         glXCreateNewContext(Partie->Ecran, Partie->Format, GLX_RGBA_TYPE, nullptr, True);
@@ -106,7 +110,8 @@ bool PlateformeGL::CreeContexte() {
 
 bool PlateformeGL::RendCourant() {
     gdk_error_trap_push();
-    const bool courant = glXMakeCurrent(Partie->Ecran, Partie->Fenetre, Partie->Contexte);
+    const bool courant =
+        glXMakeContextCurrent(Partie->Ecran, Partie->Fenetre, Partie->Fenetre, Partie->Contexte);
     XSync(Partie->Ecran, False);
     return gdk_error_trap_pop() == 0 && courant;
 }
@@ -117,11 +122,13 @@ void PlateformeGL::Echange() {
 
 void PlateformeGL::SupprimeContexte() {
     if (!Partie->Contexte) return;
-    if (glXGetCurrentContext() == Partie->Contexte) glXMakeCurrent(Partie->Ecran, None, nullptr);
+    if (glXGetCurrentContext() == Partie->Contexte)
+        glXMakeContextCurrent(Partie->Ecran, None, None, nullptr);
     glXDestroyContext(Partie->Ecran, Partie->Contexte);
     Partie->Contexte = nullptr;
 }
 
 void PlateformeGL::LibereFenetre() {
+    if (Partie->Fenetre) glXDestroyWindow(Partie->Ecran, Partie->Fenetre);
     Partie->Fenetre = 0;
 }

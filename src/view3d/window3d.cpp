@@ -23,7 +23,7 @@ bool Window3D::on_configure_event(GdkEventConfigure* evenement) {
 }
 
 bool Window3D::on_expose_event(GdkEventExpose* evenement) {
-    Gtk::Window::on_expose_event(evenement);
+    if (Gtk::Window::on_expose_event(evenement)) Dessin.queue_draw();
     return true;
 }
 
