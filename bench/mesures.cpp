@@ -271,6 +271,10 @@ int main(int nombre, char** mots) {
                      15);
     rapports.Compare("100,000 / 10,000 inserts of 100 blocks", "ImportBlocs/100000",
                      "ImportBlocs/10000", 12);
+    rapports.Compare("plate of 50 holes / the same plate and 50 cylinders", "PlaquePercee/50",
+                     "PlaqueEtCylindres/50", 4);
+    rapports.Compare("plate of 200 holes / of 50", "PlaquePercee/200", "PlaquePercee/50", 5);
+    rapports.Compare("20 carved solids / 5", "SolidesPerces/20", "SolidesPerces/5", 5);
     AfficheMemoire(100000);
     return 0;
 }

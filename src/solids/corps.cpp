@@ -51,9 +51,9 @@ void Quadrique::Cylindre(double bas, double haut, double hauteur, int facettes) 
     gluCylinder(Forme, bas, haut, hauteur, f, f);
 }
 
-void Quadrique::Disque(double rayon, int facettes) const {
+void Quadrique::Disque(double rayon, int facettes, std::optional<int> anneaux) const {
     const int f = FacettesQuadrique(facettes);
-    gluDisk(Forme, 0.0, rayon, f, f);
+    gluDisk(Forme, 0.0, rayon, f, anneaux.value_or(f));
 }
 
 void Quadrique::Sphere(double rayon, int facettes) const {

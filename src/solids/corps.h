@@ -3,6 +3,8 @@
 #include <GL/gl.h>
 #include <GL/glu.h>
 
+#include <optional>
+
 #include "elements/trait.h"
 #include "solids/elt3d.h"
 
@@ -48,7 +50,8 @@ class Quadrique {
     // such as a negative radius, draws nothing.
 
     void Cylindre(double bas, double haut, double hauteur, int facettes) const;
-    void Disque(double rayon, int facettes) const;
+    /// In rings about its centre, as many as facettes unless told otherwise.
+    void Disque(double rayon, int facettes, std::optional<int> anneaux = {}) const;
     void Sphere(double rayon, int facettes) const;
 
   private:

@@ -29,16 +29,18 @@ void EltPercage::Charge(Lecteur& entree) {
 
 void EltPercage::DessineFonds(DC3D& dc, bool couleur) const {
     ColoreCorps(Style, couleur);
+    // Rings only matter to the light: what covers pixels unseen needs one.
+    const std::optional<int> anneaux = couleur ? std::nullopt : std::optional<int>(1);
     {
         const RepereLocal repere(Position, *this);
         const Elevation elevation(h);
         elevation.Sens(GL_CW);
         Habille(dc, *this, true);
-        Quadrique(GLU_OUTSIDE).Disque(Rayon, facetisation);
+        Quadrique(GLU_OUTSIDE).Disque(Rayon, facetisation, anneaux);
         elevation.Sens(GL_CCW);
         glTranslated(0.0, 0.0, elevation.Hauteur);
         Habille(dc, *this, dessus);
-        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facetisation);
+        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facetisation, anneaux);
     }
     dc.FinTexture();
 }
