@@ -32,7 +32,7 @@ class EltProfilTubeRondDialog : public Elt3dDialog {
 
   private:
     void PrendChamps() override {
-        if (const auto rayon = Rayon.Nombre())
+        if (const auto rayon = Rayon.Nombre(); rayon && *rayon > 0.0)
             static_cast<EltProfilTubeRond&>(Copie()).rayon = *rayon;
     }
 

@@ -8,10 +8,11 @@ namespace {
 constexpr std::size_t TailleNombre = 32;
 
 /// Writes the number into the buffer and answers its end.
-char* Chiffre(char (&chiffres)[TailleNombre], double valeur) {
+char* Chiffre(char (&chiffres)[TailleNombre], double valeur, int nombre = 6) {
     // No sign on a zero.
     const double fini = std::isfinite(valeur) ? valeur + 0.0 : 0.0;
-    return std::to_chars(chiffres, chiffres + TailleNombre, fini, std::chars_format::general, 6)
+    return std::to_chars(chiffres, chiffres + TailleNombre, fini, std::chars_format::general,
+                         nombre)
         .ptr;
 }
 
@@ -40,7 +41,7 @@ Ecrivain& Ecrivain::operator<<(bool valeur) {
 
 Ecrivain& Ecrivain::operator<<(double valeur) {
     char chiffres[TailleNombre];
-    Tampon.append(chiffres, Chiffre(chiffres, valeur));
+    Tampon.append(chiffres, Chiffre(chiffres, valeur, Chiffres));
     return *this;
 }
 

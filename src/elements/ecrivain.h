@@ -7,10 +7,13 @@
 /// The value that a reader finds where this one was written.
 double CommeEcrit(double valeur);
 
-/// Builds the text of a file: numbers with a decimal point whatever the locale, doubles with at
-/// most 6 significant digits in the shorter of fixed and exponent form.
+/// Builds the text of a file: numbers with a decimal point whatever the locale, doubles in the
+/// shorter of fixed and exponent form, with at most 6 significant digits in files.
 class Ecrivain {
   public:
+    /// chiffres: significant digits of doubles; 17 tell any two apart.
+    explicit Ecrivain(int chiffres = 6) : Chiffres(chiffres) {}
+
     Ecrivain& operator<<(char c);
     Ecrivain& operator<<(std::string_view texte);
     Ecrivain& operator<<(const char* texte) { return *this << std::string_view(texte); }
@@ -27,4 +30,5 @@ class Ecrivain {
 
   private:
     std::string Tampon;
+    const int Chiffres;
 };

@@ -14,6 +14,14 @@ double Croix(const PointVek& a, const PointVek& b) {
 
 using Cote = std::pair<PointVek, PointVek>;
 
+/// Whether they lie on one line and have more than an end in common, by their x or both upright.
+bool SeRecouvrent(const Cote& a, const Cote& b) {
+    const PointVek u = a.second - a.first;
+    if (Norme(u) == 0.0 || Norme(b.second - b.first) == 0.0) return false;
+    if (Croix(u, b.first - a.first) != 0.0 || Croix(u, b.second - a.first) != 0.0) return false;
+    return b.first.x < a.second.x || u.x == 0.0;
+}
+
 /// Whether the ends of each lie on both sides of the other.
 bool SeCroisent(const Cote& a, const Cote& b) {
     const auto separe = [](const Cote& cote, const Cote& autre) {
@@ -124,7 +132,7 @@ bool EstEmmele(const std::vector<PointVek>& points) {
         // Only those that begin before this one ends can meet it.
         for (auto autre = cote + 1; autre != cotes.end() && autre->first.x <= cote->second.x;
              ++autre) {
-            croisements += SeCroisent(*cote, *autre);
+            croisements += SeCroisent(*cote, *autre) || SeRecouvrent(*cote, *autre);
             if (croisements > croisementsMax || ++essais > essaisMax) return true;
         }
     return false;

@@ -63,6 +63,20 @@ void EltImage3d::Dessine3D(DC3D& dc, bool couleur) const {
     --Profondeur;
 }
 
+int EltImage3d::CompteContenus(int limite) const {
+    const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
+    if (!groupe || Profondeur + 1 >= ProfondeurMax) return 0;
+    int nombre = groupe->Contenu.Elements.Nombre();
+    ++Profondeur;
+    for (const EltGeo* elt : groupe->Contenu.Elements) {
+        if (nombre > limite) break;
+        if (elt->Type == TypeImage3d)
+            nombre += static_cast<const EltImage3d*>(elt)->CompteContenus(limite - nombre);
+    }
+    --Profondeur;
+    return nombre;
+}
+
 void EltImage3d::DessineGroupe3D(DC3D& dc, bool couleur) const {
     const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
     if (!groupe || groupe->Contenu.Elements.Nombre() > ContenusMax - ContenusPeints) return;

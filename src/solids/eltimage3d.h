@@ -20,6 +20,10 @@ class EltImage3d : public EltImage, public Elt3d {
 
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void DessineFilaire(DC3D& dc) const override;
+
+    /// How many elements it shows, with those of images within; counting stops above limite.
+    int CompteContenus(int limite) const;
+
     Elt3d* GetElt3d() override { return this; }
     void ChangeElt3d(const Elt3d& source) override;
 

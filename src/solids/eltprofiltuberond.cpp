@@ -1,5 +1,7 @@
 #include "solids/eltprofiltuberond.h"
 
+#include <algorithm>
+
 #include <cmath>
 
 #include "elements/ecrivain.h"
@@ -43,8 +45,9 @@ void EltProfilTubeRond::Balaie(const EltProfil& chemin) const {
     const CompteLiens liens(chemin);
     const auto troncons = [&liens](double n) { return liens.Droits + liens.Arcs * n; };
     const int pas = FacettesTenables(FacettesBornees() / 2, troncons, tronconsMax);
-    const int grain =
-        FacettesTenables(grainVoulu, [&](double n) { return 2.0 * troncons(pas) * n * n; });
+    // Fewer than three sides are no tube.
+    const int grain = std::max(
+        3, FacettesTenables(grainVoulu, [&](double n) { return 2.0 * troncons(pas) * n * n; }));
     const auto& sommets = chemin.Sommets;
     for (std::size_t i = 1; i < sommets.size(); ++i)
         for (const Troncon& t : Troncons(sommets[i - 1], sommets[i], pas))

@@ -10,6 +10,9 @@
 
 namespace {
 
+/// Digits that tell any two numbers apart.
+constexpr int ChiffresExacts = 17;
+
 /// Half the side of the cube in which bodies are measured, in drawing units.
 constexpr double DemiCube = 20000.0;
 
@@ -169,7 +172,7 @@ CorpsCompiles::Piece& CorpsCompiles::PieceDe(const EltGeo& elt, Partie partie, c
 }
 
 std::string CorpsCompiles::RecordDe(const EltGeo& elt) {
-    Ecrivain record;
+    Ecrivain record(ChiffresExacts);
     elt.Sauve(record);
     // A tube is drawn along profiles that it holds as children.
     if (elt.Type == TypeProfilTubeRond || elt.Type == TypeProfilBoaRond)
@@ -181,7 +184,7 @@ std::string CorpsCompiles::RecordDe(const EltGeo& elt) {
 
 const std::string& CorpsCompiles::RecordGroupes() {
     if (!Groupes.empty()) return Groupes;
-    Ecrivain record;
+    Ecrivain record(ChiffresExacts);
     for (const EltGeo* elt : BddCourante.Elements)
         if (elt->Type == TypeBDD) elt->Sauve(record);
     Groupes = std::to_string(std::hash<std::string>()(record.Texte()));

@@ -28,6 +28,8 @@ void DessinePartie(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
 }
 
 ZonePixels ZoneDe(DC3D& dc, const EltGeo& elt, Partie partie) {
+    // The parts of a group may lie too far from one another to be measured.
+    if (elt.Type == TypeImage3d) return dc.ZoneDe(Etendue());
     return dc.ZoneDe(dc.Corps().EtendueDe(
         elt, partie, [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); }));
 }
@@ -126,6 +128,8 @@ void EltGeo::DessinePoint3D() const {
 void EltGeo::Dessine3DCSG(DC3D& dc) const {
     // A plane element has no body, and leaves the state as it is.
     if (Type < TypePave && Fils.Nombre() == 0) return;
+    // What takes something away is drawn by the solid that holds it, or not at all.
+    if (CommeSoustractif(*this) || CommeEnveloppe(*this)) return;
     const ZonePixels zone = ZoneSolide(dc, *this);
     if (zone.EstVide()) return;
     if (Fils.Nombre() > 0) dc.Limite(zone);

@@ -6,6 +6,7 @@
 #include <gtkmm/messagedialog.h>
 
 #include "model/bddgeo.h"
+#include "solids/eltimage3d.h"
 #include "view3d/corpscompiles.h"
 
 Dessin3D::Dessin3D(BDDGeo& bdd) : Bdd(bdd) {
@@ -79,8 +80,13 @@ void Dessin3D::DessineElements() {
             elt->DessinePoint3D();
         Dc.FinEtatFil();
     }
-    for (const EltGeo* elt : Bdd.Elements)
-        elt->Dessine3DCSG(Dc);
+    // What one repaint shows through images; from the first that is too much on, none is shown.
+    int reste = 100000;
+    for (const EltGeo* elt : Bdd.Elements) {
+        if (elt->Type == TypeImage3d && reste >= 0)
+            reste -= static_cast<const EltImage3d*>(elt)->CompteContenus(reste);
+        if (elt->Type != TypeImage3d || reste >= 0) elt->Dessine3DCSG(Dc);
+    }
 }
 
 void Dessin3D::DessineMarques() {

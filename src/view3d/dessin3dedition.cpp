@@ -30,11 +30,14 @@ bool Dessin3D::Applique(EltGeo& elt) const {
         case TourneGamma:
         case Direction:
             return Oriente(elt);
-        case PoseSommet:
-            // The handle is one for the program, and the 2D side may have taken another since.
+        case PoseSommet: {
+            // The handle is one for the program, and the 2D side may hold another at this moment.
+            const int poignee = PoigneeCourante;
             elt.DebutDeforme3D(PointSommet);
             elt.Deforme3D(Cible() - DebutDeforme);
+            PoigneeCourante = poignee;
             return true;
+        }
         default:
             return false;
     }
@@ -68,7 +71,7 @@ void Dessin3D::MajPointeur() {
 }
 
 bool Dessin3D::on_button_press_event(GdkEventButton* evenement) {
-    if (evenement->type != GDK_BUTTON_PRESS || evenement->button != 1) return false;
+    if (!Dc.Actif() || evenement->type != GDK_BUTTON_PRESS || evenement->button != 1) return false;
     switch (EditCourant) {
         case Repos:
             Choisit(evenement->time);

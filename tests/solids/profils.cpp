@@ -231,6 +231,11 @@ TEST(Chaine, CeQuiSeCroiseTropSouvent) {
     peigne.emplace_back(0, -10);
     EXPECT_FALSE(EstEmmele(peigne));
     EXPECT_TRUE(EstEmmele(pelote));
+    // To and fro along one line.
+    std::vector<PointVek> ligne;
+    for (int i = 0; i < 1000; ++i)
+        ligne.emplace_back(i * 389 % 1007, 0);
+    EXPECT_TRUE(EstEmmele(ligne));
     pelote.resize(40);
     EXPECT_FALSE(EstEmmele(pelote));
 }

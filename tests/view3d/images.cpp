@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/angles.h"
+#include "model/bddgeo.h"
 #include "scene.h"
+#include "solids/eltenvboule.h"
 
 namespace {
 
@@ -106,4 +109,26 @@ TEST(Images, CylindrePerceEtPoche) {
                   {{Cylindre({0.0, 0.0, -30.0}, 20.0, 60.0, 2), true}}},
                  {Pave({70.0, 0.0, -20.0}, 20.0, 45.0, 50.0, 3), {{fraise, false}}}},
                 "cylindre");
+}
+
+TEST(Images, UneEnveloppeNeGardeQueSonDedans) {
+    Banc3D banc;
+    EltGeo* plaque = banc.Ajoute({Plaque(), {{Cylindre({0.0, 0.0, -10.0}, 10.0, 20.0, 2), true}}});
+    auto boule = std::make_unique<EltEnvBoule>();
+    boule->Rayon = 40.0;
+    boule->Ouverture = DeuxPi;
+    boule->Style.Couleur = Gdk::Color("#0000ff");
+    plaque->AjouteFils(BddCourante.AjouteFin(std::move(boule)));
+    banc.Regarde(0, 0, 0);
+    const Capture image = banc.Image();
+    // The face of the plate is at 290 units: 2.49 pixels a unit about the middle.
+    const auto teinte = [&image](double x, double y) {
+        return Teinte(
+            image.Pixel(300 + static_cast<int>(2.49 * x), 300 - static_cast<int>(2.49 * y)));
+    };
+    EXPECT_EQ(teinte(3, 3), 0) << "through the hole";
+    EXPECT_EQ(teinte(25, 5), 1) << "the plate";
+    EXPECT_EQ(teinte(-20, -25), 1);
+    EXPECT_EQ(teinte(45, 5), 0) << "outside the ball";
+    EXPECT_EQ(teinte(-35, 35), 0);
 }
