@@ -1,5 +1,7 @@
 #include "scene.h"
 
+#include <gtest/gtest.h>
+
 #include <gdk/gdkkeysyms.h>
 #include <gtkmm/menu.h>
 
@@ -229,4 +231,16 @@ Accord::Accord(const std::vector<Solide>& scene, const Vue& vue, const Capture& 
     Part = 1.0 - static_cast<double>(faux) / std::max(montres, 1);
     LoinDesBords = static_cast<double>(loin) / std::max(montres, 1);
     if (Part < 0.995 || LoinDesBords > 0.0005) image.Garde(nom);
+}
+
+void VerifieVues(Banc3D& banc, const std::vector<Solide>& scene, const std::vector<Angles>& vues,
+                 const std::string& nom) {
+    for (const Angles& angles : vues) {
+        const Vue vue = banc.Regarde(angles.Alpha, angles.Beta, angles.Gamma);
+        const std::string titre = nom + '_' + std::to_string(angles.Alpha) + '_' +
+                                  std::to_string(angles.Beta) + '_' + std::to_string(angles.Gamma);
+        const Accord accord(scene, vue, banc.Image(), titre);
+        EXPECT_GE(accord.Part, 0.995) << titre;
+        EXPECT_LE(accord.LoinDesBords, 0.0005) << titre;
+    }
 }

@@ -54,3 +54,12 @@ struct Accord {
     double Part;          ///< Of the pixels, those that agree.
     double LoinDesBords;  ///< Those that agree with no ray of their neighbours either.
 };
+
+/// Degrees, as `Banc3D::Regarde` takes them.
+struct Angles {
+    int Alpha, Beta, Gamma;
+};
+
+/// Expects every view of what stands in the drawing to agree with the rays on the scene.
+void VerifieVues(Banc3D& banc, const std::vector<Solide>& scene, const std::vector<Angles>& vues,
+                 const std::string& nom);
