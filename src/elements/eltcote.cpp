@@ -19,7 +19,7 @@ bool EstNombreDecimales(int nombre) {
 
 namespace {
 
-/// Length in pixels of an arrow, and how far its barbs reach from its tip.
+/// How far the barbs of an arrow reach from its tip, in pixels or page units.
 constexpr double PorteeFleche = 12.0;
 
 constexpr double RayonPoignee = 5.0;

@@ -1,15 +1,14 @@
 #pragma once
 
+#include <gtkmm/button.h>
+#include <gtkmm/checkbutton.h>
 #include <gtkmm/comboboxtext.h>
 #include <gtkmm/pagesetup.h>
+#include <gtkmm/radiobutton.h>
 
 #include <vector>
 
 #include "dialogs/saisiedialog.h"
-
-#include <gtkmm/button.h>
-#include <gtkmm/checkbutton.h>
-#include <gtkmm/radiobutton.h>
 
 /// Asks for the page and for the sheet on it: paper, orientation, scale, place in the drawing,
 /// title block, ink. "Appliquer" takes what was entered and leaves the dialog open.

@@ -11,11 +11,7 @@ namespace {
 /// image of itself.
 constexpr int ProfondeurMax = 10;
 
-/// What one image paints, with those inside it.
-constexpr int ContenusMax = 100000;
-
 int Profondeur = 0;
-int ContenusPeints = 0;
 
 }  // namespace
 
@@ -57,7 +53,6 @@ void EltImage3d::Dessine3D(DC3D& dc, bool couleur) const {
     Elt3d axes(*this);
     axes.alpha += EnDegres(Angle);
     const RepereLocal repere(Position, axes);
-    if (Profondeur == 0) ContenusPeints = 0;
     ++Profondeur;
     if (Profondeur < ProfondeurMax) DessineGroupe3D(dc, couleur);
     --Profondeur;
@@ -79,9 +74,7 @@ int EltImage3d::CompteContenus(int limite) const {
 
 void EltImage3d::DessineGroupe3D(DC3D& dc, bool couleur) const {
     const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
-    if (!groupe || groupe->Contenu.Elements.Nombre() > ContenusMax - ContenusPeints) return;
-    ContenusPeints += groupe->Contenu.Elements.Nombre();
-    groupe->Dessine3DContenu(dc, couleur);
+    if (groupe) groupe->Dessine3DContenu(dc, couleur);
 }
 
 // It does not turn with the image: that is meant.

@@ -1,7 +1,6 @@
 #include "solids/eltprofiltuberond.h"
 
 #include <algorithm>
-
 #include <cmath>
 
 #include "elements/ecrivain.h"
