@@ -9,10 +9,13 @@
 #include "ecran.h"
 #include "elements/angles.h"
 #include "model/bddgeo.h"
+#include "model/eltbdd.h"
+#include "solids/eltimage3d.h"
 #include "solids/eltpave.h"
 #include "solids/eltpercage.h"
 #include "solids/eltprofiltourne.h"
 #include "solids/eltprofiltuberond.h"
+#include "solids/eltsphere.h"
 #include "view3d/window3d.h"
 
 namespace {
@@ -139,11 +142,37 @@ void Tourne(benchmark::State& etat) {
     });
 }
 
+/// A group of 20 balls, shown as often as told; facettes as a file may ask for.
+void Images(benchmark::State& etat, int facettes) {
+    Mesure(etat, [facettes](int images) {
+        auto groupe = std::make_unique<EltBDD>();
+        groupe->SetIdentificateur("billes");
+        for (int i = 0; i < 20; ++i) {
+            EltSphere bille;
+            bille.Place({-100.0 + i * 10.0, 0.0});
+            bille.Rayon = 4.0;
+            bille.Ouverture = DeuxPi;
+            bille.facetisation = facettes;
+            groupe->Contenu.AjouteFin(bille.Clone());
+        }
+        BddCourante.AjouteFin(std::move(groupe));
+        for (int i = 0; i < images; ++i) {
+            auto image = std::make_unique<EltImage3d>();
+            image->SetIdentificateur("billes");
+            image->Place({0.0, -100.0 + 200.0 * i / images});
+            Pose(std::move(image));
+        }
+    });
+}
+
 BENCHMARK(Paves)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlaquePercee)->Arg(1)->Arg(10)->Arg(50)->Arg(200)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlaqueEtCylindres)->Arg(50)->Unit(benchmark::kMillisecond);
 BENCHMARK(SolidesPerces)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Tube)->Arg(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Tourne)->Arg(100)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_CAPTURE(Images, fines, 50)->Arg(5)->Arg(30)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Images, outrees, 1000)->Arg(30)->Unit(benchmark::kMillisecond);
 
 }  // namespace

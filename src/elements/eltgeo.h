@@ -99,6 +99,9 @@ class EltGeo {
     /// The body alone, in white when couleur is false; base: nothing.
     virtual void Dessine3D(DC3D&, bool /*couleur*/) const {}
 
+    /// The body alone, kept for the next picture. Defined by the 3D view.
+    void DessineCorps3D(DC3D& dc, bool couleur) const;
+
     /// The body less its subtractive children. Defined by the 3D view.
     void Dessine3DCSG(DC3D& dc) const;
 

@@ -84,7 +84,7 @@ void EltBDD::DessineContenu(Trace& trace) const {
 
 void EltBDD::Dessine3DContenu(DC3D& dc, bool couleur) const {
     for (const EltGeo* elt : Contenu.Elements)
-        if (Contenu.EstVisible(*elt)) elt->Dessine3D(dc, couleur);
+        if (Contenu.EstVisible(*elt)) elt->DessineCorps3D(dc, couleur);
 }
 
 void EltBDD::Sauve(Ecrivain& sortie) const {

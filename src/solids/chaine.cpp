@@ -84,12 +84,6 @@ CompteLiens::CompteLiens(const EltProfil& profil) {
         ++(profil.Sommets[i].Arc(profil.Sommets[i - 1]) ? Arcs : Droits);
 }
 
-int FacettesTenables(int facettes, const std::function<double(double)>& cout, double maximum) {
-    while (facettes > 1 && cout(facettes) > maximum)
-        --facettes;
-    return facettes;
-}
-
 bool EstAntihoraire(const EltProfil& profil) {
     return Somme(Contour(profil), [](const PointVek&, const PointVek&) { return 1.0; }) > 0.0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "elements/eltprofil.h"
@@ -32,14 +31,6 @@ struct CompteLiens {
     double Droits = 0.0;
     double Arcs = 0.0;
 };
-
-/// The most pieces that one solid may be made of.
-constexpr double PiecesMax = 200000.0;
-
-/// At most facettes, and as few as it takes to hold cout(facettes) within maximum; not below 1 but
-/// where facettes is.
-int FacettesTenables(int facettes, const std::function<double(double)>& cout,
-                     double maximum = PiecesMax);
 
 /// Whether the surface of the closed profile, arcs included, lies on the left of the way.
 bool EstAntihoraire(const EltProfil& profil);

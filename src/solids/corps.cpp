@@ -1,6 +1,5 @@
 #include "solids/corps.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "view3d/dc3d.h"
@@ -26,15 +25,6 @@ void Elevation::Sens(GLenum sens) const {
     glFrontFace(sens);
 }
 
-namespace {
-
-/// Slices and stacks of one quadric: three of them stay near 200,000 pieces.
-int FacettesQuadrique(int facettes) {
-    return std::clamp(facettes, 0, 256);
-}
-
-}  // namespace
-
 Quadrique::Quadrique(GLenum orientation) : Forme(gluNewQuadric()) {
     gluQuadricDrawStyle(Forme, GLU_FILL);
     gluQuadricNormals(Forme, GLU_SMOOTH);
@@ -46,19 +36,17 @@ Quadrique::~Quadrique() {
     gluDeleteQuadric(Forme);
 }
 
-void Quadrique::Cylindre(double bas, double haut, double hauteur, int facettes) const {
-    const int f = FacettesQuadrique(facettes);
-    gluCylinder(Forme, bas, haut, hauteur, f, f);
+void Quadrique::Cylindre(double bas, double haut, double hauteur, int facettes,
+                         bool anneaux) const {
+    gluCylinder(Forme, bas, haut, hauteur, facettes, anneaux || bas != haut ? facettes : 1);
 }
 
-void Quadrique::Disque(double rayon, int facettes, std::optional<int> anneaux) const {
-    const int f = FacettesQuadrique(facettes);
-    gluDisk(Forme, 0.0, rayon, f, anneaux.value_or(f));
+void Quadrique::Disque(double rayon, int facettes, bool anneaux) const {
+    gluDisk(Forme, 0.0, rayon, facettes, anneaux ? facettes : 1);
 }
 
 void Quadrique::Sphere(double rayon, int facettes) const {
-    const int f = FacettesQuadrique(facettes);
-    gluSphere(Forme, rayon, f, f);
+    gluSphere(Forme, rayon, facettes, facettes);
 }
 
 void ColoreCorps(const Trait& trait, bool couleur, double ecart) {

@@ -3,8 +3,6 @@
 #include <GL/gl.h>
 #include <GL/glu.h>
 
-#include <optional>
-
 #include "elements/trait.h"
 #include "solids/elt3d.h"
 
@@ -46,12 +44,11 @@ class Quadrique {
     Quadrique(const Quadrique&) = delete;
     Quadrique& operator=(const Quadrique&) = delete;
 
-    // Slices and stacks are lowered to what one solid may cost. A measure that GLU has no use for,
-    // such as a negative radius, draws nothing.
+    // A measure that GLU has no use for, such as a negative radius, draws nothing.
 
-    void Cylindre(double bas, double haut, double hauteur, int facettes) const;
-    /// In rings about its centre, as many as facettes unless told otherwise.
-    void Disque(double rayon, int facettes, std::optional<int> anneaux = {}) const;
+    /// Without rings in one piece from end to end; a cone has them always, since its facets narrow.
+    void Cylindre(double bas, double haut, double hauteur, int facettes, bool anneaux) const;
+    void Disque(double rayon, int facettes, bool anneaux) const;
     void Sphere(double rayon, int facettes) const;
 
   private:

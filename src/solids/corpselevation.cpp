@@ -3,22 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
-
-int FacettesArcs(const EltProfil& profil, const Elt3d& solide) {
-    const CompteLiens liens(profil);
-    return FacettesTenables(solide.FacettesBornees(),
-                            [&](double f) { return liens.Droits + liens.Arcs * f; });
-}
-
-}  // namespace
-
-CorpsElevation::CorpsElevation(const EltProfil& profil, const Elt3d& solide)
+CorpsElevation::CorpsElevation(const EltProfil& profil, const Elt3d& solide, int facettes)
     : Profil(profil),
       Solide(solide),
       Montee(solide.h),
       Gauche(EstAntihoraire(profil)),
-      Facettes(FacettesArcs(profil, solide)) {}
+      Facettes(facettes) {}
 
 CorpsElevation::Cadre::Cadre(const EltProfil& profil) {
     double xMax = -1e6, yMax = -1e6;
@@ -32,10 +22,10 @@ CorpsElevation::Cadre::Cadre(const EltProfil& profil) {
     Hauteur = std::max(yMax - YMin, 1e-6);
 }
 
-void CorpsElevation::Couvercle(double z, bool bas) const {
+void CorpsElevation::Couvercle(double z, bool bas, bool lisse) const {
     Montee.Sens(bas != Gauche ? GL_CW : GL_CCW);
     const double normale = bas ? -1.0 : 1.0;
-    DessineCouvercle(Solide.gourault ? CoinsLisses(z, normale) : CoinsPlats(z, normale), Gauche);
+    DessineCouvercle(lisse ? CoinsLisses(z, normale) : CoinsPlats(z, normale), Gauche);
 }
 
 void CorpsElevation::Coordonnees(const Cadre& cadre, double x, double y,

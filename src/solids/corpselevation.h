@@ -13,14 +13,17 @@ constexpr double EcartTeinte = 0.005;
 /// either way round, and upward or downward, gives the same body.
 class CorpsElevation {
   public:
-    /// Both live as long as this; they are two bases of one solid.
-    CorpsElevation(const EltProfil& profil, const Elt3d& solide);
+    /// profil, solide: two bases of one solid, which live as long as this. facettes: steps of an
+    /// arc.
+    CorpsElevation(const EltProfil& profil, const Elt3d& solide, int facettes);
+
+    // The faces of a hollow are never smooth ones, which leave parts of the outline out.
 
     /// The face at the vertices themselves.
-    void Bas(bool dehors) const { Couvercle(0.0, dehors); }
+    void Bas(bool dehors) const { Couvercle(0.0, dehors, Solide.gourault && dehors); }
 
     /// The face at the height of the solid.
-    void Haut(bool dehors) const { Couvercle(Montee.Hauteur, !dehors); }
+    void Haut(bool dehors) const { Couvercle(Montee.Hauteur, !dehors, Solide.gourault && dehors); }
 
     /// The side, one link after the other in two shades, white when couleur is false; what closes
     /// the profile is straight.
@@ -38,7 +41,7 @@ class CorpsElevation {
     };
 
     /// A face at z of the upward axes, whose normal looks down when bas is true.
-    void Couvercle(double z, bool bas) const;
+    void Couvercle(double z, bool bas, bool lisse) const;
     std::vector<CoinCouvercle> CoinsPlats(double z, double normale) const;
     std::vector<CoinCouvercle> CoinsLisses(double z, double normale) const;
     void Coordonnees(const Cadre& cadre, double x, double y, CoinCouvercle& coin) const;
@@ -54,6 +57,6 @@ class CorpsElevation {
     const EltProfil& Profil;
     const Elt3d& Solide;
     const Elevation Montee;
-    const bool Gauche;   ///< The surface lies on the left of the way.
-    const int Facettes;  ///< Steps of an arc.
+    const bool Gauche;  ///< The surface lies on the left of the way.
+    const int Facettes;
 };

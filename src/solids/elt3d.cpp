@@ -13,8 +13,15 @@
 #include "elements/ecrivain.h"
 #include "elements/encodage.h"
 #include "elements/lecteur.h"
+#include "solids/grain.h"
 
 namespace {
+
+/// What GL takes of a shininess; beyond it the call would be an error and the former value would
+/// stay.
+int Exposant(double brillance) {
+    return static_cast<int>(std::lround(std::clamp(brillance, 0.0, 128.0)));
+}
 
 constexpr std::size_t LongueurLigne = 256;
 
@@ -155,11 +162,23 @@ PointVek Elt3d::VersMonde(const PointVek& v) const {
 }
 
 void Elt3d::AppliqueBrillance() const {
-    // What GL takes; beyond it the call would be an error and the former value would stay.
-    const double bornee = std::clamp(brillance, 0.0, 128.0);
-    glMateriali(GL_FRONT_AND_BACK, GL_SHININESS, static_cast<GLint>(std::lround(bornee)));
+    glMateriali(GL_FRONT_AND_BACK, GL_SHININESS, Exposant(brillance));
+}
+
+bool Elt3d::Brille() const {
+    return Exposant(brillance) != 0;
+}
+
+double Elt3d::Pieces(double, bool) const {
+    constexpr double facesPave = 6.0;
+    return facesPave;
 }
 
 int Elt3d::FacettesBornees() const {
     return std::clamp(facetisation, 0, 1000);
+}
+
+int Elt3d::Facettes(const Grain& grain) const {
+    return FacettesTenables(
+        FacettesBornees(), [&](double f) { return Pieces(f, grain.Anneaux); }, grain.PiecesMax);
 }

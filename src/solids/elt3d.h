@@ -6,6 +6,7 @@
 
 class Ecrivain;
 class Lecteur;
+struct Grain;
 
 /// What a solid has besides its plane shape: height, orientation, texture, finish. It knows nothing
 /// of elements: `EltGeo::GetElt3d` leads to it.
@@ -47,8 +48,17 @@ class Elt3d {
 
     void AppliqueBrillance() const;
 
-    /// The steps of round surfaces, within what can be painted.
+    /// Whether highlights show on it.
+    bool Brille() const;
+
+    /// Of how many pieces the body is made at that many steps, with or without rings.
+    virtual double Pieces(double facettes, bool anneaux) const;
+
+    /// `facetisation` within what has a use.
     int FacettesBornees() const;
+
+    /// The steps of round surfaces: the same, lowered to what the grain allows.
+    int Facettes(const Grain& grain) const;
 
     double alpha = 0.0;     ///< Degrees, about the local Z axis.
     double beta = 0.0;      ///< Degrees, about Y.

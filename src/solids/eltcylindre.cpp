@@ -69,9 +69,16 @@ void EltCylindre::SetCentreDefaut(const PointVek& p) {
     rayonHaut = Rayon;
 }
 
+double EltCylindre::Pieces(double facettes, bool anneaux) const {
+    const double paroi = anneaux || Rayon != rayonHaut ? facettes : 1.0;
+    return facettes * (paroi + 2.0 * (anneaux ? facettes : 1.0));
+}
+
 void EltCylindre::Dessine3D(DC3D& dc, bool couleur) const {
     AppliqueBrillance();
     ColoreCorps(Style, couleur);
+    const int facettes = Facettes(dc.GrainCorps());
+    const bool anneaux = dc.GrainCorps().Anneaux;
     {
         const RepereLocal repere(Position, *this);
         const Elevation elevation(h);
@@ -79,12 +86,12 @@ void EltCylindre::Dessine3D(DC3D& dc, bool couleur) const {
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         elevation.Sens(GL_CW);
         glTexCoord2f(0.0f, 0.0f);
-        Quadrique(GLU_OUTSIDE).Cylindre(Rayon, rayonHaut, elevation.Hauteur, facetisation);
+        Quadrique(GLU_OUTSIDE).Cylindre(Rayon, rayonHaut, elevation.Hauteur, facettes, anneaux);
         Habille(dc, *this, dessous);
-        Quadrique(GLU_INSIDE).Disque(Rayon, facetisation);
+        Quadrique(GLU_INSIDE).Disque(Rayon, facettes, anneaux);
         glTranslated(0.0, 0.0, elevation.Hauteur);
         Habille(dc, *this, dessus);
-        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facetisation);
+        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facettes, anneaux);
     }
     dc.FinTexture();
 }

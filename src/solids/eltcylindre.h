@@ -29,6 +29,7 @@ class EltCylindre : public EltArc, public Elt3d {
     void SetRayonPoint(const PointVek& p) override;
     void SetCentreDefaut(const PointVek& p) override;
 
+    double Pieces(double facettes, bool anneaux) const override;
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void DessineFilaire(DC3D& dc) const override;
     Elt3d* GetElt3d() override { return this; }

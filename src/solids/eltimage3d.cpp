@@ -58,15 +58,19 @@ void EltImage3d::Dessine3D(DC3D& dc, bool couleur) const {
     --Profondeur;
 }
 
-int EltImage3d::CompteContenus(int limite) const {
+int EltImage3d::ParcourtContenus(int limite,
+                                 const std::function<void(const EltGeo&)>& visite) const {
     const EltBDD* groupe = BddCourante.ChercheBDD(Identificateur);
-    if (!groupe || Profondeur + 1 >= ProfondeurMax) return 0;
-    int nombre = groupe->Contenu.Elements.Nombre();
+    if (!groupe || Profondeur + 1 >= ProfondeurMax || limite < 0) return 0;
+    int nombre = 0;
     ++Profondeur;
     for (const EltGeo* elt : groupe->Contenu.Elements) {
-        if (nombre > limite) break;
+        if (++nombre > limite) break;
+        visite(*elt);
         if (elt->Type == TypeImage3d)
-            nombre += static_cast<const EltImage3d*>(elt)->CompteContenus(limite - nombre);
+            nombre +=
+                static_cast<const EltImage3d*>(elt)->ParcourtContenus(limite - nombre, visite);
+        if (nombre > limite) break;
     }
     --Profondeur;
     return nombre;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "model/eltimage.h"
 #include "solids/elt3d.h"
 
@@ -18,11 +20,14 @@ class EltImage3d : public EltImage, public Elt3d {
     bool EstFini() const override;
     bool Proprietes() override;
 
+    /// None of its own.
+    double Pieces(double, bool) const override { return 0.0; }
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void DessineFilaire(DC3D& dc) const override;
 
-    /// How many elements it shows, with those of images within; counting stops above limite.
-    int CompteContenus(int limite) const;
+    /// Calls visite for the elements it shows, those of images within included, at most limite of
+    /// them. Their number, or one more than limite where there are more.
+    int ParcourtContenus(int limite, const std::function<void(const EltGeo&)>& visite) const;
 
     Elt3d* GetElt3d() override { return this; }
     void ChangeElt3d(const Elt3d& source) override;

@@ -29,18 +29,19 @@ void EltPercage::Charge(Lecteur& entree) {
 
 void EltPercage::DessineFonds(DC3D& dc, bool couleur) const {
     ColoreCorps(Style, couleur);
-    // Rings only matter to the light: what covers pixels unseen needs one.
-    const std::optional<int> anneaux = couleur ? std::nullopt : std::optional<int>(1);
+    const int facettes = Facettes(dc.GrainCorps());
+    // Rings only matter to the light: what covers pixels unseen needs none.
+    const bool anneaux = couleur && dc.GrainCorps().Anneaux;
     {
         const RepereLocal repere(Position, *this);
         const Elevation elevation(h);
         elevation.Sens(GL_CW);
         Habille(dc, *this, true);
-        Quadrique(GLU_OUTSIDE).Disque(Rayon, facetisation, anneaux);
+        Quadrique(GLU_OUTSIDE).Disque(Rayon, facettes, anneaux);
         elevation.Sens(GL_CCW);
         glTranslated(0.0, 0.0, elevation.Hauteur);
         Habille(dc, *this, dessus);
-        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facetisation, anneaux);
+        Quadrique(GLU_OUTSIDE).Disque(rayonHaut, facettes, anneaux);
     }
     dc.FinTexture();
 }
@@ -54,7 +55,9 @@ void EltPercage::DessineParoi(DC3D& dc, bool couleur) const {
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         elevation.Sens(GL_CW);
         glTexCoord2f(0.0f, 0.0f);
-        Quadrique(GLU_INSIDE).Cylindre(Rayon, rayonHaut, elevation.Hauteur, facetisation);
+        Quadrique(GLU_INSIDE)
+            .Cylindre(Rayon, rayonHaut, elevation.Hauteur, Facettes(dc.GrainCorps()),
+                      dc.GrainCorps().Anneaux);
     }
     dc.FinTexture();
 }

@@ -6,6 +6,7 @@
 #include "elements/angles.h"
 #include "solids/chaine.h"
 #include "solids/corps.h"
+#include "solids/grain.h"
 
 namespace {
 
@@ -47,9 +48,9 @@ void Anneaux(const Anneau& a, const Anneau& b, int facettes) {
     }
 }
 
-void Bout(const Anneau& anneau, GLenum orientation, int facettes) {
+void Bout(const Anneau& anneau, GLenum orientation, int facettes, bool anneaux) {
     const RepereTroncon repere(anneau.Centre, anneau.Voie);
-    Quadrique(orientation).Disque(anneau.Rayon, facettes);
+    Quadrique(orientation).Disque(anneau.Rayon, facettes, anneaux);
 }
 
 /// The radius at each vertex of the path.
@@ -72,13 +73,13 @@ struct TronconBoa {
     bool Premier;
     bool Dernier;
 
-    void Dessine(int facettes) const {
+    void Dessine(int facettes, bool anneaux) const {
         Anneaux(Debut, Fin, facettes);
         if (Premier)
-            Bout(Debut, GLU_INSIDE, facettes);
+            Bout(Debut, GLU_INSIDE, facettes, anneaux);
         else if (Precedent)
             Anneaux({Debut.Centre, Debut.Centre - *Precedent, Debut.Rayon}, Debut, facettes);
-        if (Dernier) Bout(Fin, GLU_OUTSIDE, facettes);
+        if (Dernier) Bout(Fin, GLU_OUTSIDE, facettes, anneaux);
     }
 };
 
@@ -90,13 +91,18 @@ std::unique_ptr<EltGeo> EltProfilBoaRond::Clone() const {
     return std::make_unique<EltProfilBoaRond>(*this);
 }
 
-void EltProfilBoaRond::Balaie(const EltProfil& chemin) const {
+double EltProfilBoaRond::Pieces(double facettes, bool anneaux) const {
+    const EltProfil* chemin = Chemin();
+    if (!chemin) return 0.0;
+    const CompteLiens liens(*chemin);
+    const double peau = (liens.Droits + liens.Arcs * std::floor(facettes / 2.0)) * 2.0 * facettes;
+    return peau + 2.0 * facettes * (anneaux ? facettes : 1.0);
+}
+
+void EltProfilBoaRond::Balaie(const EltProfil& chemin, const Grain& grain) const {
     if (Fils.Nombre() < 2) return;
     const std::vector<double> rayons = Rayons(chemin, **std::next(Fils.begin()));
-    const CompteLiens liens(chemin);
-    const int f = FacettesTenables(FacettesBornees(), [&](double n) {
-        return (liens.Droits + liens.Arcs * std::floor(n / 2.0)) * 2.0 * n;
-    });
+    const int f = Facettes(grain);
     const auto& sommets = chemin.Sommets;
     std::optional<PointVek> precedent;
     for (std::size_t i = 1; i < sommets.size(); ++i) {
@@ -110,7 +116,7 @@ void EltProfilBoaRond::Balaie(const EltProfil& chemin) const {
                        precedent,
                        i == 1 && !t.SurArc,
                        i + 1 == sommets.size() && !t.SurArc}
-                .Dessine(f);
+                .Dessine(f, grain.Anneaux);
             precedent = t.Debut;
             rayon = suivant;
         }

@@ -10,8 +10,9 @@ class EltProfilBoaRond : public EltProfilTube {
     EltProfilBoaRond();
 
     std::unique_ptr<EltGeo> Clone() const override;
+    double Pieces(double facettes, bool anneaux) const override;
     bool Proprietes() override;
 
   protected:
-    void Balaie(const EltProfil& chemin) const override;
+    void Balaie(const EltProfil& chemin, const Grain& grain) const override;
 };

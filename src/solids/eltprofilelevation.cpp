@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "elements/distances.h"
+#include "solids/chaine.h"
 #include "solids/corps.h"
 #include "solids/corpselevation.h"
 #include "view3d/dc3d.h"
@@ -32,11 +33,16 @@ bool EltProfilElevation::EstFini() const {
     return EltProfil::EstFini() && Elt3d::EstFini();
 }
 
+double EltProfilElevation::Pieces(double facettes, bool) const {
+    const CompteLiens liens(*this);
+    return liens.Droits + liens.Arcs * facettes;
+}
+
 void EltProfilElevation::Dessine3D(DC3D& dc, bool couleur) const {
     AppliqueBrillance();
     {
         const RepereLocal repere(Position, *this);
-        const CorpsElevation corps(*this, *this);
+        const CorpsElevation corps(*this, *this, Facettes(dc.GrainCorps()));
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         ColoreCorps(Style, couleur);
         Habille(dc, *this, dessous);

@@ -17,6 +17,7 @@ class EltProfilElevation : public EltProfil, public Elt3d {
     bool EstFini() const override;
     bool Proprietes() override;
 
+    double Pieces(double facettes, bool anneaux) const override;
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void DessineFilaire(DC3D& dc) const override;
     Elt3d* GetElt3d() override { return this; }

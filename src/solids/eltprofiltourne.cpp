@@ -75,11 +75,14 @@ bool EltProfilTourne::EstFini() const {
     return EltProfil::EstFini() && Elt3d::EstFini();
 }
 
+double EltProfilTourne::Pieces(double facettes, bool) const {
+    const CompteLiens liens(*this);
+    return facettes * (liens.Droits + liens.Arcs * facettes);
+}
+
 void EltProfilTourne::Dessine3D(DC3D& dc, bool couleur) const {
     const bool dehors = !EstAntihoraireAutourDeY(*this);
-    const CompteLiens liens(*this);
-    const int f = FacettesTenables(FacettesBornees(),
-                                   [&](double n) { return n * (liens.Droits + liens.Arcs * n); });
+    const int f = Facettes(dc.GrainCorps());
     AppliqueBrillance();
     ColoreCorps(Style, couleur);
     dc.ActiveTexture(texture);

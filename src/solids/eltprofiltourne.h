@@ -19,6 +19,7 @@ class EltProfilTourne : public EltProfil, public Elt3d {
     bool EstFini() const override;
     bool Proprietes() override;
 
+    double Pieces(double facettes, bool anneaux) const override;
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void ChangeElt3d(const Elt3d& source) override { Elt3d::Copie(source); }
 

@@ -26,9 +26,14 @@ bool EltProfilTube::EstFini() const {
     return EltGeo::EstFini() && Elt3d::EstFini();
 }
 
-void EltProfilTube::Dessine3D(DC3D& dc, bool couleur) const {
+const EltProfil* EltProfilTube::Chemin() const {
     const EltGeo* chemin = Fils.Premier();
-    if (!chemin || chemin->Type != TypeProfil) return;
+    return chemin && chemin->Type == TypeProfil ? static_cast<const EltProfil*>(chemin) : nullptr;
+}
+
+void EltProfilTube::Dessine3D(DC3D& dc, bool couleur) const {
+    const EltProfil* chemin = Chemin();
+    if (!chemin) return;
     AppliqueBrillance();
     Habille(dc, *this, dessus);
     {
@@ -36,7 +41,7 @@ void EltProfilTube::Dessine3D(DC3D& dc, bool couleur) const {
         ColoreCorps(Style, couleur);
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         glFrontFace(GL_CW);
-        Balaie(static_cast<const EltProfil&>(*chemin));
+        Balaie(*chemin, dc.GrainCorps());
     }
     dc.FinTexture();
 }

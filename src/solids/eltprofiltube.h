@@ -24,8 +24,11 @@ class EltProfilTube : public EltGeo, public Elt3d {
   protected:
     explicit EltProfilTube(int type);
 
+    /// The first child where it is a profile; else null.
+    const EltProfil* Chemin() const;
+
     /// Draws the body along the path, in its axes.
-    virtual void Balaie(const EltProfil& chemin) const = 0;
+    virtual void Balaie(const EltProfil& chemin, const Grain& grain) const = 0;
 };
 
 /// While it lives, the z axis starts at p along the plane vector u.

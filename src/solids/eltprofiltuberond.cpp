@@ -7,6 +7,24 @@
 #include "elements/lecteur.h"
 #include "solids/chaine.h"
 #include "solids/corps.h"
+#include "solids/grain.h"
+
+namespace {
+
+/// Fixed, whatever `facetisation` says, but for what one solid may cost.
+constexpr int TranchesVoulues = 100;
+
+double NombreTroncons(const EltProfil& chemin, double pasArc) {
+    const CompteLiens liens(chemin);
+    return liens.Droits + liens.Arcs * pasArc;
+}
+
+/// Each has a wall and a ball.
+double PiecesTroncons(double nombre, double tranches, bool anneaux) {
+    return nombre * tranches * (tranches + (anneaux ? tranches : 1.0));
+}
+
+}  // namespace
 
 EltProfilTubeRond::EltProfilTubeRond() : EltProfilTube(TypeProfilTubeRond) {}
 
@@ -37,35 +55,43 @@ bool EltProfilTubeRond::EstValide() const {
     return EstFini() && rayon > 0.0;
 }
 
-void EltProfilTubeRond::Balaie(const EltProfil& chemin) const {
+double EltProfilTubeRond::Pieces(double facettes, bool anneaux) const {
+    const EltProfil* chemin = Chemin();
+    return chemin
+               ? PiecesTroncons(NombreTroncons(*chemin, facettes / 2.0), TranchesVoulues, anneaux)
+               : 0.0;
+}
+
+void EltProfilTubeRond::Balaie(const EltProfil& chemin, const Grain& grain) const {
     constexpr double tronconsMax = 2000.0;
-    // Fixed, whatever `facetisation` says, but for what one solid may cost.
-    constexpr int grainVoulu = 100;
-    const CompteLiens liens(chemin);
-    const auto troncons = [&liens](double n) { return liens.Droits + liens.Arcs * n; };
-    const int pas = FacettesTenables(FacettesBornees() / 2, troncons, tronconsMax);
+    const int pas = FacettesTenables(
+        FacettesBornees() / 2, [&](double n) { return NombreTroncons(chemin, n); }, tronconsMax);
     // Fewer than three sides are no tube.
-    const int grain = std::max(
-        3, FacettesTenables(grainVoulu, [&](double n) { return 2.0 * troncons(pas) * n * n; }));
+    const int tranches = std::max(
+        3,
+        FacettesTenables(
+            TranchesVoulues,
+            [&](double n) { return PiecesTroncons(NombreTroncons(chemin, pas), n, grain.Anneaux); },
+            grain.PiecesMax));
     const auto& sommets = chemin.Sommets;
     for (std::size_t i = 1; i < sommets.size(); ++i)
         for (const Troncon& t : Troncons(sommets[i - 1], sommets[i], pas))
             DessineTroncon(t.Debut, t.Fin, i == 1 && !t.SurArc,
-                           i + 1 == sommets.size() && !t.SurArc, grain);
+                           i + 1 == sommets.size() && !t.SurArc, tranches, grain.Anneaux);
 }
 
 void EltProfilTubeRond::DessineTroncon(const PointVek& p, const PointVek& q, bool premier,
-                                       bool dernier, int grain) const {
+                                       bool dernier, int tranches, bool anneaux) const {
     const PointVek u = q - p;
     const double longueur = Norme(u);
     const RepereTroncon repere(p, u);
     glTexCoord2f(0.0f, 0.0f);
     const Quadrique dehors(GLU_OUTSIDE);
-    dehors.Cylindre(rayon, rayon, longueur, grain);
-    if (premier) Quadrique(GLU_INSIDE).Disque(rayon, grain);
+    dehors.Cylindre(rayon, rayon, longueur, tranches, anneaux);
+    if (premier) Quadrique(GLU_INSIDE).Disque(rayon, tranches, anneaux);
     glTranslated(0.0, 0.0, longueur);
     if (dernier)
-        dehors.Disque(rayon, grain);
+        dehors.Disque(rayon, tranches, anneaux);
     else
-        dehors.Sphere(rayon, grain);
+        dehors.Sphere(rayon, tranches);
 }

@@ -13,15 +13,16 @@ class EltProfilTubeRond : public EltProfilTube {
     void Charge(Lecteur& entree) override;
     bool EstFini() const override;
     bool EstValide() const override;
+    double Pieces(double facettes, bool anneaux) const override;
     bool Proprietes() override;
 
     double rayon = 10.0;  ///< In drawing units.
 
   protected:
-    void Balaie(const EltProfil& chemin) const override;
+    void Balaie(const EltProfil& chemin, const Grain& grain) const override;
 
   private:
-    /// The rod from p to q; grain: slices and stacks.
+    /// The rod from p to q, of that many slices.
     void DessineTroncon(const PointVek& p, const PointVek& q, bool premier, bool dernier,
-                        int grain) const;
+                        int tranches, bool anneaux) const;
 };

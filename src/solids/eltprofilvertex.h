@@ -8,6 +8,7 @@ class EltProfilVertex : public EltProfilElevation {
   public:
     using EltProfilElevation::EltProfilElevation;
 
+    double Pieces(double, bool) const override { return 2.0 * static_cast<double>(Sommets.size()); }
     void Dessine3D(DC3D& dc, bool couleur) const override;
 
   protected:

@@ -31,7 +31,7 @@ void EltRainureP::DessineFonds(DC3D& dc, bool couleur) const {
     ColoreCorps(Style, couleur);
     {
         const RepereLocal repere(Position, *this);
-        const CorpsElevation corps(*this, *this);
+        const CorpsElevation corps(*this, *this, Facettes(dc.GrainCorps()));
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         corps.Bas(false);
         corps.Haut(false);
@@ -44,7 +44,7 @@ void EltRainureP::DessineParoi(DC3D& dc, bool couleur) const {
     Habille(dc, *this, pourtour);
     {
         const RepereLocal repere(Position, *this);
-        const CorpsElevation corps(*this, *this);
+        const CorpsElevation corps(*this, *this, Facettes(dc.GrainCorps()));
         glPolygonMode(GL_BACK, GL_FILL);
         corps.Cote(couleur, false);
     }

@@ -49,7 +49,7 @@ void EltSphere::DessineCorps(DC3D& dc, bool couleur) const {
         const RepereLocal repere(Position, *this);
         glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
         glFrontFace(GL_CW);
-        Quadrique(GLU_OUTSIDE).Sphere(Rayon, facetisation);
+        Quadrique(GLU_OUTSIDE).Sphere(Rayon, Facettes(dc.GrainCorps()));
     }
     dc.FinTexture();
 }

@@ -19,6 +19,7 @@ class EltSphere : public EltArc, public Elt3d {
     bool EstFini() const override;
     bool Proprietes() override;
 
+    double Pieces(double facettes, bool) const override { return facettes * facettes; }
     void Dessine3D(DC3D& dc, bool couleur) const override;
     void DessineFilaire(DC3D& dc) const override;
     Elt3d* GetElt3d() override { return this; }

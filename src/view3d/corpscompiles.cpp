@@ -6,7 +6,7 @@
 
 #include "elements/ecrivain.h"
 #include "elements/eltgeo.h"
-#include "model/bddgeo.h"
+#include "solids/grain.h"
 
 namespace {
 
@@ -107,13 +107,14 @@ Etendue Place(const std::vector<GLfloat>& tampon, int nombre) {
 
 }  // namespace
 
+CorpsCompiles::CorpsCompiles(const Grain& grain) : Finesse(grain) {}
+
 CorpsCompiles::~CorpsCompiles() {
     Oublie();
 }
 
 void CorpsCompiles::DebutImage() {
     ++Image;
-    Groupes.clear();
 }
 
 void CorpsCompiles::FinImage() {
@@ -166,29 +167,21 @@ CorpsCompiles::Piece& CorpsCompiles::PieceDe(const EltGeo& elt, Partie partie, c
         element.Record = std::move(record);
         element.Image = Image;
     }
+    if (!(element.Finesse == Finesse)) Detruit(element);
+    element.Finesse = Finesse;
     Piece& piece = element.Pieces[static_cast<int>(partie)];
     if (!piece.Mesuree) Mesure(piece, trace);
     return piece;
 }
 
-std::string CorpsCompiles::RecordDe(const EltGeo& elt) {
+std::string CorpsCompiles::RecordDe(const EltGeo& elt) const {
     Ecrivain record(ChiffresExacts);
     elt.Sauve(record);
     // A tube is drawn along profiles that it holds as children.
     if (elt.Type == TypeProfilTubeRond || elt.Type == TypeProfilBoaRond)
         for (const EltGeo* fils : elt.Fils)
             fils->Sauve(record);
-    if (elt.Type == TypeImage3d) record << RecordGroupes();
     return record.Prend();
-}
-
-const std::string& CorpsCompiles::RecordGroupes() {
-    if (!Groupes.empty()) return Groupes;
-    Ecrivain record(ChiffresExacts);
-    for (const EltGeo* elt : BddCourante.Elements)
-        if (elt->Type == TypeBDD) elt->Sauve(record);
-    Groupes = std::to_string(std::hash<std::string>()(record.Texte()));
-    return Groupes;
 }
 
 void CorpsCompiles::Mesure(Piece& piece, const Trace& trace) const {

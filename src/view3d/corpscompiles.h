@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "elements/pointvek.h"
+#include "solids/grain.h"
 
 class EltGeo;
 
@@ -22,14 +23,15 @@ enum class Partie { Corps, Paroi, Fonds };
 
 /// Draws parts of elements through GL display lists, so that an unchanged one is not tessellated
 /// again. A list is made anew when the element's record, with the records of what its body is made
-/// from, is no longer the one it was made from. Belongs to one GL context, which is current
-/// whenever it is used.
+/// from, or the grain are no longer those it was made from. Belongs to one GL context, which is
+/// current whenever it is used.
 class CorpsCompiles {
   public:
     /// Draws the part in colour or in white.
     using Trace = std::function<void(bool couleur)>;
 
-    CorpsCompiles() = default;
+    /// grain: how finely bodies are made at the time; to outlive this.
+    explicit CorpsCompiles(const Grain& grain);
     ~CorpsCompiles();
     CorpsCompiles(const CorpsCompiles&) = delete;
     CorpsCompiles& operator=(const CorpsCompiles&) = delete;
@@ -60,21 +62,19 @@ class CorpsCompiles {
 
     struct Element {
         std::string Record;
+        Grain Finesse;
         int Image = -1;  ///< The last image in which the record was looked at.
         Piece Pieces[3];
     };
 
     Piece& PieceDe(const EltGeo& elt, Partie partie, const Trace& trace);
-    std::string RecordDe(const EltGeo& elt);
-
-    /// What an image in space may be made of: a number for the text of all groups.
-    const std::string& RecordGroupes();
+    std::string RecordDe(const EltGeo& elt) const;
     void Mesure(Piece& piece, const Trace& trace) const;
     void Compile(Piece& piece, bool couleur, const Trace& trace);
     void Detruit(Element& element);
 
+    const Grain& Finesse;
     std::unordered_map<const EltGeo*, Element> Elements;
-    std::string Groupes;  ///< Empty until an image needs it.
     int Image = 0;
     int TailleTotale = 0;  ///< Of all lists.
 };

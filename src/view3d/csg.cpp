@@ -7,6 +7,7 @@
 #include "solids/soustractif.h"
 #include "view3d/corpscompiles.h"
 #include "view3d/dc3d.h"
+#include "view3d/scenebornee.h"
 
 namespace {
 
@@ -22,7 +23,29 @@ void DessineNu(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
         elt.Dessine3D(dc, couleur);
 }
 
+/// Has an own body: what takes something away is drawn by the solid that holds it, or not at all.
+bool APropreCorps(const EltGeo& elt) {
+    return !CommeSoustractif(elt) && !CommeEnveloppe(elt);
+}
+
+/// While it lives, the grain is the one that the light asks for on that solid.
+class GrainDuSolide {
+  public:
+    GrainDuSolide(DC3D& dc, const EltGeo& solide) : Dc(dc), Avant(dc.GrainCorps()) {
+        Dc.MetGrainCorps({LumiereVarie(solide, dc), Avant.PiecesMax});
+    }
+    ~GrainDuSolide() { Dc.MetGrainCorps(Avant); }
+    GrainDuSolide(const GrainDuSolide&) = delete;
+    GrainDuSolide& operator=(const GrainDuSolide&) = delete;
+
+  private:
+    DC3D& Dc;
+    const Grain Avant;
+};
+
 void DessinePartie(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
+    // What an image shows is compiled one by one, and so once for all images of a group.
+    if (elt.Type == TypeImage3d) return elt.Dessine3D(dc, couleur);
     dc.Corps().Dessine(elt, partie, couleur,
                        [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); });
 }
@@ -125,11 +148,17 @@ void EltGeo::DessinePoint3D() const {
     glEnd();
 }
 
+void EltGeo::DessineCorps3D(DC3D& dc, bool couleur) const {
+    if (Type < TypePave || !APropreCorps(*this)) return;
+    const GrainDuSolide grain(dc, *this);
+    DessinePartie(dc, *this, Partie::Corps, couleur);
+}
+
 void EltGeo::Dessine3DCSG(DC3D& dc) const {
     // A plane element has no body, and leaves the state as it is.
     if (Type < TypePave && Fils.Nombre() == 0) return;
-    // What takes something away is drawn by the solid that holds it, or not at all.
-    if (CommeSoustractif(*this) || CommeEnveloppe(*this)) return;
+    if (!APropreCorps(*this)) return;
+    const GrainDuSolide grain(dc, *this);
     const ZonePixels zone = ZoneSolide(dc, *this);
     if (zone.EstVide()) return;
     if (Fils.Nombre() > 0) dc.Limite(zone);

@@ -35,7 +35,7 @@ void DC3D::Init(const Glib::RefPtr<Gdk::Window>& fenetre) {
     PositionLumiere(0, {0.0, 100.0, 100.0});
     PositionLumiere(1, {0.0, 100.0, 0.0});
     Textures = std::make_unique<GestionTextures>();
-    Compiles = std::make_unique<CorpsCompiles>();
+    Compiles = std::make_unique<CorpsCompiles>(Finesse);
     glEnable(GL_NORMALIZE);
     glDisable(GL_AUTO_NORMAL);
 }

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "solids/grain.h"
 #include "view3d/camera.h"
 
 class CorpsCompiles;
@@ -40,8 +41,9 @@ struct ZonePixels {
 };
 
 /// The context of the 3D picture: GL on the widget's window, camera, lights, textures, and the
-/// state sets that the passes switch between. It knows no solid; solids select their textures
-/// through it. The one header of this floor that lower ones may include.
+/// state sets that the passes switch between. It knows no solid; solids select their textures and
+/// learn how finely they are made through it. The one header of this floor that lower ones may
+/// include.
 ///
 /// The state sets are named operations: each issues a fixed list of GL calls and leaves everything
 /// else as it was.
@@ -58,6 +60,10 @@ class DC3D {
 
     /// What was drawn with it is done; there is nothing to do.
     void FinTexture() {}
+
+    /// How finely the bodies drawn next are made.
+    const Grain& GrainCorps() const { return Finesse; }
+    void MetGrainCorps(const Grain& grain) { Finesse = grain; }
 
     // Set-up.
 
@@ -156,6 +162,7 @@ class DC3D {
     Glib::RefPtr<Gdk::Window> Fenetre;
     std::unique_ptr<GestionTextures> Textures;  ///< There is one as long as the context works.
     std::unique_ptr<CorpsCompiles> Compiles;
+    Grain Finesse;
     bool TexturesActives = true;
     bool Allumees[2] = {true, false};
     int CompteStencil = 0;           ///< The stencil value that counts as inside.

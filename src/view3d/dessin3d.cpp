@@ -6,8 +6,7 @@
 #include <gtkmm/messagedialog.h>
 
 #include "model/bddgeo.h"
-#include "solids/eltimage3d.h"
-#include "view3d/corpscompiles.h"
+#include "view3d/scenebornee.h"
 
 Dessin3D::Dessin3D(BDDGeo& bdd) : Bdd(bdd) {
     set_size_request(600, 600);
@@ -27,6 +26,8 @@ void Dessin3D::on_realize() {
         RegleSurface();
         RegleLumiere(0);
         RegleLumiere(1);
+        // The ball is the only pointer of the view.
+        get_window()->set_cursor(Gdk::Cursor(Gdk::BLANK_CURSOR));
     } catch (const DC3DException& erreur) {
         // The window is about to be shown: the dialog waits until it is.
         Glib::signal_idle().connect_once(sigc::mem_fun(*this, &Dessin3D::DitSansGL));
@@ -54,12 +55,6 @@ void Dessin3D::RegleLumiere(int indice) {
     if (Dc.Actif()) Dc.Lumiere(indice, intensite * 0.5f, intensite);
 }
 
-bool Dessin3D::on_configure_event(GdkEventConfigure*) {
-    // The ball is the only pointer of the view.
-    if (Dc.Actif()) get_window()->set_cursor(Gdk::Cursor(Gdk::BLANK_CURSOR));
-    return false;
-}
-
 bool Dessin3D::on_expose_event(GdkEventExpose*) {
     if (Dc.Actif()) DessineScene();
     return true;
@@ -80,17 +75,14 @@ void Dessin3D::DessineElements() {
             elt->DessinePoint3D();
         Dc.FinEtatFil();
     }
-    // What one repaint shows through images; from the first that is too much on, none is shown.
-    int reste = 100000;
-    for (const EltGeo* elt : Bdd.Elements) {
-        if (elt->Type == TypeImage3d && reste >= 0)
-            reste -= static_cast<const EltImage3d*>(elt)->CompteContenus(reste);
-        if (elt->Type != TypeImage3d || reste >= 0) elt->Dessine3DCSG(Dc);
-    }
+    const SceneBornee scene(Bdd, Dc);
+    Dc.MetGrainCorps({true, scene.PiecesMax()});
+    for (const EltGeo* elt : scene.Elements())
+        elt->Dessine3DCSG(Dc);
 }
 
 void Dessin3D::DessineMarques() {
-    Curseur.Dessine3DCSG(Dc);
+    Curseur.Dessine3D(Dc, true);
     Dc.EtatFil();
     if (Accrochage && AccrocheTrouvee) MarqueAccroche.DessineFilaire(Dc);
     if (Clone) Clone->DessineFilaire(Dc);

@@ -33,7 +33,6 @@ class Dessin3D : public Gtk::DrawingArea {
     void on_realize() override;
     void on_unrealize() override;
     bool on_expose_event(GdkEventExpose* evenement) override;
-    bool on_configure_event(GdkEventConfigure* evenement) override;
     bool on_motion_notify_event(GdkEventMotion* evenement) override;
     bool on_scroll_event(GdkEventScroll* evenement) override;
     bool on_button_press_event(GdkEventButton* evenement) override;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "elements/angles.h"
+#include "elements/eltprofil.h"
 #include "model/bddgeo.h"
 #include "solids/elt3d.h"
 #include "view3d/dessin3d.h"
@@ -32,10 +33,11 @@ bool Dessin3D::Applique(EltGeo& elt) const {
             return Oriente(elt);
         case PoseSommet: {
             // The handle is one for the program, and the 2D side may hold another at this moment.
-            const int poignee = PoigneeCourante;
+            const int poignee = PoigneeCourante, sommet = SommetCourant;
             elt.DebutDeforme3D(PointSommet);
             elt.Deforme3D(Cible() - DebutDeforme);
             PoigneeCourante = poignee;
+            SommetCourant = sommet;
             return true;
         }
         default:

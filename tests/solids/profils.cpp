@@ -15,6 +15,7 @@
 #include "solids/eltprofilsurface.h"
 #include "solids/eltprofiltourne.h"
 #include "solids/eltrainurep.h"
+#include "solids/grain.h"
 
 namespace {
 
@@ -241,9 +242,12 @@ TEST(Chaine, CeQuiSeCroiseTropSouvent) {
 }
 
 TEST(Chaine, FacettesEnNombreTenable) {
-    const auto carre = [](double f) { return 100 * f * f; };
-    EXPECT_EQ(FacettesTenables(20, carre), 20);
-    EXPECT_EQ(FacettesTenables(1000, carre), 44);
-    EXPECT_EQ(FacettesTenables(1000, [](double f) { return 1e9 * f; }), 1);
-    EXPECT_EQ(FacettesTenables(0, [](double) { return 1e9; }), 0);
+    const auto facettes = [](int voulues, double cout) {
+        return FacettesTenables(
+            voulues, [cout](double f) { return cout * f * f; }, 2e5);
+    };
+    EXPECT_EQ(facettes(20, 100), 20);
+    EXPECT_EQ(facettes(1000, 100), 44);
+    EXPECT_EQ(facettes(1000, 1e9), 1);
+    EXPECT_EQ(facettes(0, 1e9), 0);
 }
