@@ -70,15 +70,16 @@ void PoseRond(EltGeo* porteur, const PointVek& centre, double rayon) {
 }
 
 /// A plate with as many holes, or in their place as many plain cylinders: what they cost undug.
+/// part: the radius of each to what it has of the side; beyond 0.5 they run into one another.
 template <class Rond>
-void PosePlaque(int trous, bool perce) {
+void PosePlaque(int trous, bool perce, double part = 0.3) {
     EltPave& plaque = PosePave({-100, 100}, {100, -100});
     const int cote = static_cast<int>(std::ceil(std::sqrt(trous)));
     const double pas = 200.0 / cote;
     for (int i = 0; i < trous; ++i)
         PoseRond<Rond>(perce ? &plaque : nullptr,
                        {-100.0 + (i % cote + 0.5) * pas, -100.0 + (i / cote + 0.5) * pas},
-                       pas * 0.3);
+                       pas * part);
 }
 
 template <class Scene>
@@ -101,6 +102,10 @@ void Paves(benchmark::State& etat) {
 
 void PlaquePercee(benchmark::State& etat) {
     Mesure(etat, [](int trous) { PosePlaque<EltPercage>(trous, true); });
+}
+
+void PlaqueTrousMeles(benchmark::State& etat) {
+    Mesure(etat, [](int trous) { PosePlaque<EltPercage>(trous, true, 0.6); });
 }
 
 void PlaqueEtCylindres(benchmark::State& etat) {
@@ -167,6 +172,7 @@ void Images(benchmark::State& etat, int facettes) {
 
 BENCHMARK(Paves)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlaquePercee)->Arg(1)->Arg(10)->Arg(50)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlaqueTrousMeles)->Arg(10)->Arg(50)->Arg(200)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlaqueEtCylindres)->Arg(50)->Unit(benchmark::kMillisecond);
 BENCHMARK(SolidesPerces)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Tube)->Arg(20)->Unit(benchmark::kMillisecond);

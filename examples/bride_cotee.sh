@@ -8,54 +8,6 @@ cd "$(dirname "$0")/.."
 . scripts/paquets.sh
 . scripts/gestes.sh
 
-# cherche_origine: finds where on the display the origin of the drawing is, by the mark that a grid of
-# long step leaves there alone.
-cherche_origine() {
-    xdotool mousemove 1240 860
-    xdotool key g
-    appuie p 7
-    sleep 0.5
-    local marque
-    marque=$(import -window root -depth 8 -crop 400x400+440+280 txt:- | grep -i '#000000' | head -n 1) ||
-        { echo "The origin of the drawing is not to be seen." >&2; return 1; }
-    # A mark of four pixels, whose second row and column the origin is.
-    ox=$((440 + ${marque%%,*} + 1))
-    marque=${marque#*,}
-    oy=$((280 + ${marque%%:*} + 1))
-}
-
-# vue X Y: the coordinates that follow are those of the view whose centre is there, in drawing units.
-vue() {
-    vx=$1 vy=$2
-}
-
-# There are two pixels to the unit.
-en_x() { echo $((ox + 2 * (vx + $1))); }
-en_y() { echo $((oy - 2 * (vy + $1))); }
-
-# pts X Y...: clicks at points of the view.
-pts() {
-    while [ $# -gt 0 ]; do
-        clic "$(en_x "$1")" "$(en_y "$2")"
-        shift 2
-    done
-}
-
-# sur X Y ENTREE: takes an entry of the menu of the element at that point.
-sur() {
-    popup "$(en_x "$1")" "$(en_y "$2")" "$3"
-}
-
-# couleur CODE: the colour of the next elements.
-couleur() {
-    option 9
-    attend "Couleur"
-    xdotool key --delay 40 alt+n ctrl+a
-    tape "$1"
-    xdotool key --delay 40 Return Tab Tab Return  # Past Annuler to Valider.
-    revient
-}
-
 # trait EPAISSEUR LIGNE SURFACE: the style of the next elements. LIGNE is continu or axe, SURFACE vide
 # or hachuree. The dialog opens on the style before, which is kept here to know how many times the keys
 # are to be pressed.
@@ -102,11 +54,6 @@ entoure() {
     fi
     xdotool key Return
     revient
-}
-
-pas_de_grille() {
-    option 3
-    valide "pas de la grille" "$1"
 }
 
 feuille() { vue 0 0; }

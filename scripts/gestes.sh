@@ -112,6 +112,15 @@ edition() { menu 1 "$1"; }
 creation() { menu 2 "$1"; }
 cote() { menu 3 "$1"; }
 option() { menu 5 "$1"; }
+creation3d() { menu 7 "$1"; }
+
+# profil3d RANG: takes an entry of the submenu of the profiles in space.
+profil3d() {
+    creation3d 3
+    appuie Down "$1"
+    xdotool key Return
+    sleep 0.2
+}
 
 # popup X Y ENTREE: takes an entry of the menu that the right button opens at a point of the display:
 # 0 Sup, 1 Propriétés, 2 Avant, 3 Arriere.
@@ -129,7 +138,7 @@ tape() {
     local texte=$1 debut lettre
     while [ -n "$texte" ]; do
         debut=${texte%%[! -~]*}
-        [ -z "$debut" ] || xdotool type --delay 15 "$debut"
+        [ -z "$debut" ] || xdotool type --delay 15 -- "$debut"
         texte=${texte#"$debut"}
         [ -n "$texte" ] || break
         lettre=${texte:0:1}
@@ -159,4 +168,85 @@ remplit() {
 # valide TITRE TEXTE: types the text into the only field of the dialog.
 valide() {
     remplit "$1" "$2"
+}
+
+# cherche_origine: finds where on the display the origin of the drawing is, by the mark that a grid of
+# long step leaves there alone.
+cherche_origine() {
+    xdotool mousemove 1240 860
+    xdotool key g
+    appuie p 7
+    sleep 0.5
+    local marque
+    marque=$(import -window root -depth 8 -crop 400x400+440+280 txt:- | grep -i '#000000' | head -n 1) ||
+        { echo "The origin of the drawing is not to be seen." >&2; return 1; }
+    # A mark of four pixels, whose second row and column the origin is.
+    ox=$((440 + ${marque%%,*} + 1))
+    marque=${marque#*,}
+    oy=$((280 + ${marque%%:*} + 1))
+}
+
+# vue X Y: the coordinates that follow are those of the view whose centre is there, in drawing units.
+vue() {
+    vx=$1 vy=$2
+}
+
+# en_x X, en_y Y: where on the display a point of the view is, at two pixels to the unit: after `o`.
+en_x() { echo $((ox + 2 * (vx + $1))); }
+en_y() { echo $((oy - 2 * (vy + $1))); }
+
+# pts X Y...: clicks at points of the view.
+pts() {
+    while [ $# -gt 0 ]; do
+        clic "$(en_x "$1")" "$(en_y "$2")"
+        shift 2
+    done
+}
+
+# sur X Y ENTREE: takes an entry of the menu of the element at that point.
+sur() {
+    popup "$(en_x "$1")" "$(en_y "$2")" "$3"
+}
+
+# fiche X Y PROPRES CHAMP=VALEUR...: changes the properties of the solid at that point, given in the
+# order of the dialog. PROPRES are the fields between Z and h. A mark, as in debouchant=, turns over.
+fiche() {
+    sur "$1" "$2" 1
+    attend "Propri"
+    local champ champs="X Y Z $3 h alpha beta gamma texture facettes
+        dessus dessous pourtour repetition echelle brillance gouraud debouchant"
+    shift 3
+    for champ in $champs; do
+        [ $# -gt 0 ] || break
+        if [ "${1%%=*}" = "$champ" ]; then
+            if [ -n "${1#*=}" ]; then
+                xdotool key ctrl+a
+                tape "${1#*=}"
+            else
+                xdotool key space
+            fi
+            shift
+        fi
+        xdotool key Tab
+    done
+    [ $# -eq 0 ] || { echo "No such field: $1" >&2; return 1; }
+    xdotool key Return
+    revient
+}
+pave="Longueur Largeur" rond="Rinf Rsup" jonc=Rinf profil=
+
+# couleur CODE: the colour of the next elements.
+couleur() {
+    option 9
+    attend "Couleur"
+    xdotool key --delay 40 alt+n ctrl+a
+    tape "$1"
+    xdotool key --delay 40 Return Tab Tab Return  # Past Annuler to Valider.
+    revient
+}
+
+# pas_de_grille PAS
+pas_de_grille() {
+    option 3
+    valide "pas de la grille" "$1"
 }

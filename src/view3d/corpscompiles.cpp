@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 #include "elements/ecrivain.h"
@@ -106,6 +107,35 @@ Etendue Place(const std::vector<GLfloat>& tampon, int nombre) {
 }
 
 }  // namespace
+
+bool Etendue::Touche(const Etendue& autre) const {
+    if (!Bornee || !autre.Bornee) return true;
+    // What GL gives back is rounded.
+    constexpr double jeu = 0.01;
+    const auto dehors = [](double haut, double bas) { return haut - jeu <= bas; };
+    return !(dehors(Haut.x, autre.Bas.x) || dehors(autre.Haut.x, Bas.x) ||
+             dehors(Haut.y, autre.Bas.y) || dehors(autre.Haut.y, Bas.y) ||
+             dehors(Haut.z, autre.Bas.z) || dehors(autre.Haut.z, Bas.z));
+}
+
+std::vector<bool> SeTouchent(const std::vector<const Etendue*>& boites) {
+    const auto debut = [&](std::size_t i) {
+        return boites[i]->Bornee ? boites[i]->Bas.x : -HUGE_VAL;
+    };
+    const auto fin = [&](std::size_t i) {
+        return boites[i]->Bornee ? boites[i]->Haut.x : HUGE_VAL;
+    };
+    std::vector<std::size_t> ordre(boites.size());
+    std::iota(ordre.begin(), ordre.end(), 0);
+    std::sort(ordre.begin(), ordre.end(),
+              [&](std::size_t a, std::size_t b) { return debut(a) < debut(b); });
+    std::vector<bool> touches(boites.size(), false);
+    for (std::size_t i = 0; i < ordre.size(); ++i)
+        for (std::size_t j = i + 1; j < ordre.size() && debut(ordre[j]) < fin(ordre[i]); ++j)
+            if (boites[ordre[i]]->Touche(*boites[ordre[j]]))
+                touches[ordre[i]] = touches[ordre[j]] = true;
+    return touches;
+}
 
 CorpsCompiles::CorpsCompiles(const Grain& grain) : Finesse(grain) {}
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "elements/pointvek.h"
 #include "solids/grain.h"
@@ -16,7 +17,13 @@ struct Etendue {
     PointVek Bas;
     PointVek Haut;
     bool Bornee = false;  ///< False when it cannot be told: the corners then mean nothing.
+
+    /// Whether they have more than a face in common; also when that cannot be told.
+    bool Touche(const Etendue& autre) const;
 };
+
+/// Which of the boxes touch another one.
+std::vector<bool> SeTouchent(const std::vector<const Etendue*>& boites);
 
 /// What is drawn of an element, as the passes ask for it.
 enum class Partie { Corps, Paroi, Fonds };

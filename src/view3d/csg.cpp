@@ -3,6 +3,9 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "solids/eltenvboule.h"
 #include "solids/soustractif.h"
 #include "view3d/corpscompiles.h"
@@ -105,26 +108,75 @@ void TailleDehors(DC3D& dc, const EltGeo& solide) {
 /// Writes the walls of a hole or groove into the depth where its mouth shows, then its bottom, or
 /// the far plane where it goes through. Caps that only cover pixels are drawn in white: they may be
 /// coarser inside their outline than those that are painted.
-void Creuse(DC3D& dc, const EltGeo& fils, const Soustractif& creux) {
+void EcritCreux(DC3D& dc, const EltGeo& fils) {
+    const bool debouchant = CommeSoustractif(fils)->debouchant;
+    dc.EtatFondVisible();
+    DessinePartie(dc, fils, Partie::Paroi, true);
+    if (debouchant) dc.EtatFondOuvert();
+    DessinePartie(dc, fils, Partie::Fonds, !debouchant);
+}
+
+void Creuse(DC3D& dc, const EltGeo& fils) {
     dc.EtatMarqueCreux();
     DessinePartie(dc, fils, Partie::Fonds, false);
     dc.EtatCreux();
-    dc.EtatFondVisible();
-    DessinePartie(dc, fils, Partie::Paroi, true);
-    if (creux.debouchant) dc.EtatFondOuvert();
-    DessinePartie(dc, fils, Partie::Fonds, !creux.debouchant);
+    EcritCreux(dc, fils);
 }
 
-/// One after the other, or each would show the walls of the others through its own mouth.
-void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
-    for (const EltGeo* fils : solide.Fils) {
-        const Soustractif* creux = CommeSoustractif(*fils);
-        if (!creux) continue;
+/// Where what the depth buffer holds lies inside the hole or groove, as the walls of another one
+/// that runs into it do, writes its far side in its place.
+void Approfondit(DC3D& dc, const EltGeo& fils) {
+    dc.EtatEntree();
+    DessinePartie(dc, fils, Partie::Fonds, false);
+    DessinePartie(dc, fils, Partie::Paroi, true);
+    dc.EtatSortie();
+    DessinePartie(dc, fils, Partie::Fonds, false);
+    DessinePartie(dc, fils, Partie::Paroi, true);
+    dc.EtatApprofondit();
+    EcritCreux(dc, fils);
+}
+
+/// Does to each of the holes and grooves, within the part of the picture where it appears.
+template <class Suite>
+void PourChaque(DC3D& dc, const Suite& creux, void (*fait)(DC3D&, const EltGeo&)) {
+    for (const EltGeo* fils : creux) {
         const ZonePixels place = ZoneCreux(dc, *fils);
         if (place.EstVide()) continue;
         dc.Limite(place);
-        Creuse(dc, *fils, *creux);
+        fait(dc, *fils);
     }
+}
+
+const Etendue& EtendueParoi(DC3D& dc, const EltGeo& creux) {
+    return dc.Corps().EtendueDe(creux, Partie::Paroi, [&](bool enCouleur) {
+        DessineNu(dc, creux, Partie::Paroi, enCouleur);
+    });
+}
+
+/// Those that may run into one another.
+std::vector<const EltGeo*> Meles(DC3D& dc, const std::vector<const EltGeo*>& creux) {
+    std::vector<const Etendue*> places;
+    for (const EltGeo* fils : creux)
+        places.push_back(&EtendueParoi(dc, *fils));
+    std::vector<const EltGeo*> meles;
+    const std::vector<bool> touches = SeTouchent(places);
+    for (std::size_t i = 0; i < creux.size(); ++i)
+        if (touches[i]) meles.push_back(creux[i]);
+    return meles;
+}
+
+/// One after the other, or each would show the walls of the others through its own mouth. Those
+/// that run into one another are gone over again, both ways along the list: a sight that leaves one
+/// may cross several others.
+void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
+    std::vector<const EltGeo*> creux;
+    for (const EltGeo* fils : solide.Fils)
+        if (CommeSoustractif(*fils)) creux.push_back(fils);
+    PourChaque(dc, creux, Creuse);
+    std::vector<const EltGeo*> meles = Meles(dc, creux);
+    PourChaque(dc, meles, Approfondit);
+    std::reverse(meles.begin(), meles.end());
+    PourChaque(dc, meles, Approfondit);
     dc.Limite(zone);
 }
 

@@ -137,6 +137,13 @@ class DC3D {
     void EtatMarqueCreux();
     void EtatCreux();
 
+    // For a hollow that another one runs into: near sides in front of the present depth are
+    // counted up, far sides down; then far sides are written where one more was entered than left.
+
+    void EtatEntree();
+    void EtatSortie();
+    void EtatApprofondit();
+
     /// What is drawn next writes its own depth, or that of the far plane.
     void EtatFondVisible();
     void EtatFondOuvert();

@@ -33,6 +33,7 @@ class Dessin3D : public Gtk::DrawingArea {
     void on_realize() override;
     void on_unrealize() override;
     bool on_expose_event(GdkEventExpose* evenement) override;
+    bool on_configure_event(GdkEventConfigure* evenement) override;
     bool on_motion_notify_event(GdkEventMotion* evenement) override;
     bool on_scroll_event(GdkEventScroll* evenement) override;
     bool on_button_press_event(GdkEventButton* evenement) override;
@@ -83,6 +84,9 @@ class Dessin3D : public Gtk::DrawingArea {
 
     /// Puts the pointer under the mouse at its present depth.
     void SuitSouris();
+
+    /// The same where the window has come under the mouse without any motion.
+    void RejointSouris(const PointVek& pixel);
 
     /// The mouse has come from the pixel avant with the third button held: down brings the pointer
     /// nearer, and it keeps its height.

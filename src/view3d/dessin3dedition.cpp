@@ -74,6 +74,7 @@ void Dessin3D::MajPointeur() {
 
 bool Dessin3D::on_button_press_event(GdkEventButton* evenement) {
     if (!Dc.Actif() || evenement->type != GDK_BUTTON_PRESS || evenement->button != 1) return false;
+    RejointSouris({evenement->x, evenement->y});
     switch (EditCourant) {
         case Repos:
             Choisit(evenement->time);

@@ -38,6 +38,17 @@ void Dessin3D::SuitSourisEnProfondeur(const PointVek& avant) {
     PointeurChange();
 }
 
+void Dessin3D::RejointSouris(const PointVek& pixel) {
+    if (!pixel.EstFini() || (PixelSouris && Distance(*PixelSouris, pixel) == 0.0)) return;
+    PixelSouris = pixel;
+    SuitSouris();
+}
+
+bool Dessin3D::on_configure_event(GdkEventConfigure*) {
+    SuitSouris();
+    return false;
+}
+
 bool Dessin3D::on_motion_notify_event(GdkEventMotion* evenement) {
     const PointVek pixel(evenement->x, evenement->y);
     if (!pixel.EstFini()) return true;

@@ -189,6 +189,27 @@ void DC3D::EtatCreux() {
     glCullFace(GL_FRONT);
 }
 
+void DC3D::EtatEntree() {
+    EtatMarqueCreux();
+    glStencilFunc(GL_ALWAYS, 0, 0xff);
+    glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
+    glDepthFunc(GL_LESS);
+    // What lies in the surface of the hollow is not inside it, whatever the rounding.
+    glPolygonOffset(1.0f, 4.0f);
+}
+
+void DC3D::EtatSortie() {
+    glStencilOp(GL_KEEP, GL_KEEP, GL_DECR);
+    glDepthFunc(GL_LEQUAL);
+    glPolygonOffset(-1.0f, -4.0f);
+    glCullFace(GL_FRONT);
+}
+
+void DC3D::EtatApprofondit() {
+    EtatCreux();
+    glDepthFunc(GL_GREATER);
+}
+
 void DC3D::EtatFondVisible() {
     glDepthRange(0.0, 1.0);
 }

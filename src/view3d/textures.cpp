@@ -4,8 +4,11 @@
 #include <gdkmm/pixbuf.h>
 #include <glibmm/exception.h>
 #include <glibmm/fileutils.h>
+#include <glibmm/miscutils.h>
 
 #include <vector>
+
+#include "model/bddgeo.h"
 
 namespace {
 
@@ -51,6 +54,12 @@ Glib::RefPtr<Gdk::Pixbuf> LitImage(const std::string& nom) {
     }
 }
 
+/// A name without its path may be that of a file beside the drawing.
+std::string Chemin(const std::string& nom) {
+    if (Glib::path_is_absolute(nom) || Glib::file_test(nom, Glib::FILE_TEST_EXISTS)) return nom;
+    return Glib::build_filename(Glib::path_get_dirname(BddCourante.NomFichier), nom);
+}
+
 }  // namespace
 
 GestionTextures::GestionTextures() {
@@ -69,8 +78,9 @@ void GestionTextures::Active(const Glib::ustring& nom) {
         glBindTexture(GL_TEXTURE_2D, Blanche);
         return;
     }
-    auto trouvee = ParNom.find(nom.raw());
-    if (trouvee == ParNom.end()) trouvee = ParNom.emplace(nom.raw(), Charge(nom.raw())).first;
+    const std::string chemin = Chemin(nom.raw());
+    auto trouvee = ParNom.find(chemin);
+    if (trouvee == ParNom.end()) trouvee = ParNom.emplace(chemin, Charge(chemin)).first;
     glBindTexture(GL_TEXTURE_2D, trouvee->second);
 }
 
