@@ -9,8 +9,10 @@
 
 namespace {
 
+Gtk::Window* Annoncee = nullptr;  ///< By `FenetreDesDialogues`; null for none.
+
 /// The window that a new dialog belongs over: the active one; where the window manager tells of
-/// none, the newest modal one, else the oldest. Null when no window is shown.
+/// none, the newest modal one, else the one announced or the oldest. Null when no window is shown.
 Gtk::Window* FenetreParente() {
     Gtk::Window* modale = nullptr;
     Gtk::Window* ancienne = nullptr;
@@ -19,12 +21,20 @@ Gtk::Window* FenetreParente() {
         if (!fenetre->is_visible() || fenetre->get_window_type() != Gtk::WINDOW_TOPLEVEL) continue;
         if (fenetre->property_is_active()) return fenetre;
         if (fenetre->get_modal()) modale = fenetre;
-        if (!ancienne) ancienne = fenetre;
+        if (!ancienne || fenetre == Annoncee) ancienne = fenetre;
     }
     return modale ? modale : ancienne;
 }
 
 }  // namespace
+
+FenetreDesDialogues::FenetreDesDialogues(Gtk::Window* fenetre) : Avant(Annoncee) {
+    Annoncee = fenetre;
+}
+
+FenetreDesDialogues::~FenetreDesDialogues() {
+    Annoncee = Avant;
+}
 
 ChampSaisie::ChampSaisie(const Glib::ustring& texte, int longueurMax) {
     set_max_length(longueurMax);

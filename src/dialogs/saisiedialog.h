@@ -20,6 +20,19 @@ class ChampSaisie : public Gtk::Entry {
     bool Modifie = false;
 };
 
+/// While it lives, a dialog that comes when no window is active belongs over that window: the menu
+/// that asks for it has just taken the keys away.
+class FenetreDesDialogues {
+  public:
+    explicit FenetreDesDialogues(Gtk::Window* fenetre);
+    ~FenetreDesDialogues();
+    FenetreDesDialogues(const FenetreDesDialogues&) = delete;
+    FenetreDesDialogues& operator=(const FenetreDesDialogues&) = delete;
+
+  private:
+    Gtk::Window* const Avant;
+};
+
 /// A question in a few fields, with the buttons "Valider" and "Annuler", over the window that the
 /// user is at. Built on the stack, run by `run`; the values go back to the caller on "Valider" or
 /// the Enter key only.

@@ -17,6 +17,9 @@ constexpr int ChiffresExacts = 17;
 /// Half the side of the cube in which bodies are measured, in drawing units.
 constexpr double DemiCube = 20000.0;
 
+/// By how much boxes that touch may be apart, as what GL gives back is rounded.
+constexpr double Jeu = 0.01;
+
 /// Numbers that GL may give back for one part, and for all that are compiled: what is larger is
 /// drawn without a list.
 constexpr int TailleMin = 1 << 16;
@@ -110,9 +113,7 @@ Etendue Place(const std::vector<GLfloat>& tampon, int nombre) {
 
 bool Etendue::Touche(const Etendue& autre) const {
     if (!Bornee || !autre.Bornee) return true;
-    // What GL gives back is rounded.
-    constexpr double jeu = 0.01;
-    const auto dehors = [](double haut, double bas) { return haut - jeu <= bas; };
+    const auto dehors = [](double haut, double bas) { return haut + Jeu < bas; };
     return !(dehors(Haut.x, autre.Bas.x) || dehors(autre.Haut.x, Bas.x) ||
              dehors(Haut.y, autre.Bas.y) || dehors(autre.Haut.y, Bas.y) ||
              dehors(Haut.z, autre.Bas.z) || dehors(autre.Haut.z, Bas.z));
@@ -131,7 +132,7 @@ std::vector<bool> SeTouchent(const std::vector<const Etendue*>& boites) {
               [&](std::size_t a, std::size_t b) { return debut(a) < debut(b); });
     std::vector<bool> touches(boites.size(), false);
     for (std::size_t i = 0; i < ordre.size(); ++i)
-        for (std::size_t j = i + 1; j < ordre.size() && debut(ordre[j]) < fin(ordre[i]); ++j)
+        for (std::size_t j = i + 1; j < ordre.size() && debut(ordre[j]) <= fin(ordre[i]) + Jeu; ++j)
             if (boites[ordre[i]]->Touche(*boites[ordre[j]]))
                 touches[ordre[i]] = touches[ordre[j]] = true;
     return touches;

@@ -18,7 +18,7 @@ struct Etendue {
     PointVek Haut;
     bool Bornee = false;  ///< False when it cannot be told: the corners then mean nothing.
 
-    /// Whether they have more than a face in common; also when that cannot be told.
+    /// Whether they have a point in common; also when that cannot be told.
     bool Touche(const Etendue& autre) const;
 };
 

@@ -128,6 +128,7 @@ void Creuse(DC3D& dc, const EltGeo& fils) {
 void Approfondit(DC3D& dc, const EltGeo& fils) {
     dc.EtatEntree();
     DessinePartie(dc, fils, Partie::Fonds, false);
+    dc.EtatEntreeParoi();
     DessinePartie(dc, fils, Partie::Paroi, true);
     dc.EtatSortie();
     DessinePartie(dc, fils, Partie::Fonds, false);

@@ -139,8 +139,10 @@ class DC3D {
 
     // For a hollow that another one runs into: near sides in front of the present depth are
     // counted up, far sides down; then far sides are written where one more was entered than left.
+    // What lies in a mouth has entered it, what lies in a wall has not.
 
     void EtatEntree();
+    void EtatEntreeParoi();
     void EtatSortie();
     void EtatApprofondit();
 

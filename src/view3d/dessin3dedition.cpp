@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "dialogs/saisiedialog.h"
 #include "elements/angles.h"
 #include "elements/eltprofil.h"
 #include "model/bddgeo.h"
@@ -129,6 +130,7 @@ void Dessin3D::Prop() {
     EltGeo* const elt = Selection;
     if (!elt) return;
     auto avant = elt->Clone();
+    const FenetreDesDialogues fenetre(dynamic_cast<Gtk::Window*>(get_toplevel()));
     const bool change = elt->Proprietes();
     // The dialog ran a loop of its own, and the element may have gone.
     if (Selection != elt) return;

@@ -193,8 +193,10 @@ void DC3D::EtatEntree() {
     EtatMarqueCreux();
     glStencilFunc(GL_ALWAYS, 0, 0xff);
     glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
+}
+
+void DC3D::EtatEntreeParoi() {
     glDepthFunc(GL_LESS);
-    // What lies in the surface of the hollow is not inside it, whatever the rounding.
     glPolygonOffset(1.0f, 4.0f);
 }
 
