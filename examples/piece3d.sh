@@ -11,35 +11,7 @@ cd "$(dirname "$0")/.."
 . scripts/paquets.sh
 . scripts/gestes.sh
 
-# fiche X Y PROPRES CHAMP=VALEUR...: changes the properties of the solid at that point, given in the
-# order of the dialog. PROPRES are the fields between Z and h. A mark, as in debouchant=, turns over.
-fiche() {
-    sur "$1" "$2" 1
-    attend "Propri"
-    local champ champs="X Y Z $3 h alpha beta gamma texture facettes
-        dessus dessous pourtour repetition echelle brillance gouraud debouchant"
-    shift 3
-    for champ in $champs; do
-        [ $# -gt 0 ] || break
-        if [ "${1%%=*}" = "$champ" ]; then
-            if [ -n "${1#*=}" ]; then
-                xdotool key ctrl+a
-                tape "${1#*=}"
-            else
-                xdotool key space
-            fi
-            shift
-        fi
-        xdotool key Tab
-    done
-    [ $# -eq 0 ] || { echo "No such field: $1" >&2; return 1; }
-    xdotool key Return
-    revient
-}
-
 est_large() { xdotool getactivewindow getwindowgeometry | grep -q ' 1280x'; }
-
-pave="Longueur Largeur" rond="Rinf Rsup" jonc=Rinf profil=
 
 plan() { vue 0 0; }            # The part from above.
 nervure() { vue -250 100; }    # A rib, from the axis of the hub.
@@ -53,7 +25,8 @@ fond='#6a7f95' noir='#000000'
 installe $PAQUETS_DEMO
 ouvre_bureau "$PWD/build/piece3d"
 mkdir -p "$(dirname "$dessin")"
-rm -f "$dessin"
+copie=${dessin%.vek}_copie.vek
+rm -f "$dessin" "$copie"
 image=$(dirname "$dessin")/planche.png  # Beside the drawing, where it is looked for.
 [ examples/planche.png -ef "$image" ] || cp examples/planche.png "$image"
 demarre
@@ -183,9 +156,9 @@ quitte
 # What is read is what was written: saved again, under another name, it is the same file.
 demarre "$dessin"
 menu 0 4  # Enregistrer sous
-valide "enregistrer" "$bureau/copie.vek"
-essaie test -s "$bureau/copie.vek"
-cmp "$dessin" "$bureau/copie.vek"
+valide "enregistrer" "$copie"
+essaie test -s "$copie"
+cmp "$dessin" "$copie"
 
 # The view in space, in the whole of the display.
 menu 6 9  # Vue 3D

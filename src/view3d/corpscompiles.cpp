@@ -42,6 +42,8 @@ class RepereMesure {
         glDepthRange(0.0, 1.0);
         glDisable(GL_CULL_FACE);
         glDisable(GL_POLYGON_OFFSET_FILL);
+        // The material would keep the colour that is measured in.
+        glDisable(GL_COLOR_MATERIAL);
     }
 
     ~RepereMesure() {

@@ -53,11 +53,15 @@ void DessinePartie(DC3D& dc, const EltGeo& elt, Partie partie, bool couleur) {
                        [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); });
 }
 
+const Etendue& EtendueDe(DC3D& dc, const EltGeo& elt, Partie partie) {
+    return dc.Corps().EtendueDe(elt, partie,
+                                [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); });
+}
+
 ZonePixels ZoneDe(DC3D& dc, const EltGeo& elt, Partie partie) {
     // The parts of a group may lie too far from one another to be measured.
     if (elt.Type == TypeImage3d) return dc.ZoneDe(Etendue());
-    return dc.ZoneDe(dc.Corps().EtendueDe(
-        elt, partie, [&](bool enCouleur) { DessineNu(dc, elt, partie, enCouleur); }));
+    return dc.ZoneDe(EtendueDe(dc, elt, partie));
 }
 
 ZonePixels ZoneCreux(DC3D& dc, const EltGeo& creux) {
@@ -116,68 +120,96 @@ void EcritCreux(DC3D& dc, const EltGeo& fils) {
     DessinePartie(dc, fils, Partie::Fonds, !debouchant);
 }
 
-void Creuse(DC3D& dc, const EltGeo& fils) {
-    dc.EtatMarqueCreux();
+/// Writes the far side of one that others run into, where it lies behind what stands there. The
+/// end of a through one is left for `OuvreFond`, since it may open into another one; a blind one is
+/// left by its mouth, which lies in the far side of the solid.
+void EcritMele(DC3D& dc, const EltGeo& solide, const EltGeo& fils) {
+    dc.EtatApprofondit();
+    dc.EtatFondVisible();
+    DessinePartie(dc, fils, Partie::Paroi, true);
+    if (CommeSoustractif(fils)->debouchant) return DessinePartie(dc, fils, Partie::Fonds, false);
+    dc.EtatFondMarque();
+    DessinePartie(dc, fils, Partie::Fonds, true);
+    dc.EtatDosDuSolide();
+    DessinePartie(dc, solide, Partie::Corps, false);
+    dc.OuvreMarques();
+}
+
+/// Opens the end of a through one where no other has taken it away.
+void OuvreFond(DC3D& dc, const EltGeo& fils) {
+    if (!CommeSoustractif(fils)->debouchant) return;
+    dc.EtatFondRestant();
     DessinePartie(dc, fils, Partie::Fonds, false);
+    dc.OuvreMarques();
+}
+
+/// A hole or groove of a solid.
+struct Creux {
+    const EltGeo* Elt;
+    bool Mele;  ///< Another one may run into it.
+};
+
+void Creuse(DC3D& dc, const EltGeo& solide, const Creux& creux) {
+    dc.EtatMarqueCreux();
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, false);
+    if (creux.Mele) return EcritMele(dc, solide, *creux.Elt);
     dc.EtatCreux();
-    EcritCreux(dc, fils);
+    EcritCreux(dc, *creux.Elt);
 }
 
 /// Where what the depth buffer holds lies inside the hole or groove, as the walls of another one
 /// that runs into it do, writes its far side in its place.
-void Approfondit(DC3D& dc, const EltGeo& fils) {
-    dc.EtatEntree();
+void Approfondit(DC3D& dc, const EltGeo& solide, const EltGeo& fils) {
+    dc.EtatEntreeFonds();
     DessinePartie(dc, fils, Partie::Fonds, false);
     dc.EtatEntreeParoi();
     DessinePartie(dc, fils, Partie::Paroi, true);
-    dc.EtatSortie();
-    DessinePartie(dc, fils, Partie::Fonds, false);
+    dc.EtatSortieParoi();
     DessinePartie(dc, fils, Partie::Paroi, true);
-    dc.EtatApprofondit();
-    EcritCreux(dc, fils);
+    if (CommeSoustractif(fils)->debouchant) dc.EtatSortieOuverte();
+    DessinePartie(dc, fils, Partie::Fonds, false);
+    EcritMele(dc, solide, fils);
 }
 
-/// Does to each of the holes and grooves, within the part of the picture where it appears.
-template <class Suite>
-void PourChaque(DC3D& dc, const Suite& creux, void (*fait)(DC3D&, const EltGeo&)) {
-    for (const EltGeo* fils : creux) {
-        const ZonePixels place = ZoneCreux(dc, *fils);
+std::vector<Creux> CreuxDe(DC3D& dc, const EltGeo& solide) {
+    std::vector<Creux> creux;
+    std::vector<const Etendue*> places;
+    for (const EltGeo* fils : solide.Fils) {
+        if (!CommeSoustractif(*fils)) continue;
+        creux.push_back({fils, false});
+        places.push_back(&EtendueDe(dc, *fils, Partie::Paroi));
+    }
+    const std::vector<bool> meles = SeTouchent(places);
+    for (std::size_t i = 0; i < creux.size(); ++i)
+        creux[i].Mele = meles[i];
+    return creux;
+}
+
+/// Does to each of them, within the part of the picture where it appears.
+template <class Fait>
+void PourChaque(DC3D& dc, const std::vector<Creux>& suite, const Fait& fait) {
+    for (const Creux& creux : suite) {
+        const ZonePixels place = ZoneCreux(dc, *creux.Elt);
         if (place.EstVide()) continue;
         dc.Limite(place);
-        fait(dc, *fils);
+        fait(creux);
     }
-}
-
-const Etendue& EtendueParoi(DC3D& dc, const EltGeo& creux) {
-    return dc.Corps().EtendueDe(creux, Partie::Paroi, [&](bool enCouleur) {
-        DessineNu(dc, creux, Partie::Paroi, enCouleur);
-    });
-}
-
-/// Those that may run into one another.
-std::vector<const EltGeo*> Meles(DC3D& dc, const std::vector<const EltGeo*>& creux) {
-    std::vector<const Etendue*> places;
-    for (const EltGeo* fils : creux)
-        places.push_back(&EtendueParoi(dc, *fils));
-    std::vector<const EltGeo*> meles;
-    const std::vector<bool> touches = SeTouchent(places);
-    for (std::size_t i = 0; i < creux.size(); ++i)
-        if (touches[i]) meles.push_back(creux[i]);
-    return meles;
 }
 
 /// One after the other, or each would show the walls of the others through its own mouth. Those
 /// that run into one another are gone over again, both ways along the list: a sight that leaves one
 /// may cross several others.
 void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
-    std::vector<const EltGeo*> creux;
-    for (const EltGeo* fils : solide.Fils)
-        if (CommeSoustractif(*fils)) creux.push_back(fils);
-    PourChaque(dc, creux, Creuse);
-    std::vector<const EltGeo*> meles = Meles(dc, creux);
-    PourChaque(dc, meles, Approfondit);
-    std::reverse(meles.begin(), meles.end());
-    PourChaque(dc, meles, Approfondit);
+    std::vector<Creux> creux = CreuxDe(dc, solide);
+    PourChaque(dc, creux, [&](const Creux& un) { Creuse(dc, solide, un); });
+    creux.erase(
+        std::remove_if(creux.begin(), creux.end(), [](const Creux& un) { return !un.Mele; }),
+        creux.end());
+    for (int sens = 0; sens < 2; ++sens) {
+        PourChaque(dc, creux, [&](const Creux& un) { Approfondit(dc, solide, *un.Elt); });
+        std::reverse(creux.begin(), creux.end());
+    }
+    PourChaque(dc, creux, [&](const Creux& un) { OuvreFond(dc, *un.Elt); });
     dc.Limite(zone);
 }
 

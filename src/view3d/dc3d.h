@@ -139,12 +139,22 @@ class DC3D {
 
     // For a hollow that another one runs into: near sides in front of the present depth are
     // counted up, far sides down; then far sides are written where one more was entered than left.
-    // What lies in a mouth has entered it, what lies in a wall has not.
+    // What lies in a mouth or in an open end is inside, what lies in a wall or a bottom is not.
 
-    void EtatEntree();
+    void EtatEntreeFonds();
     void EtatEntreeParoi();
-    void EtatSortie();
+    void EtatSortieParoi();
+    void EtatSortieOuverte();
     void EtatApprofondit();
+
+    // Far caps through which the hollow is left go to the far plane: of those of a blind one that
+    // are written, the ones that the far side of the solid is not behind; of those of a through
+    // one, the ones that still stand.
+
+    void EtatFondMarque();
+    void EtatDosDuSolide();
+    void EtatFondRestant();
+    void OuvreMarques();
 
     /// What is drawn next writes its own depth, or that of the far plane.
     void EtatFondVisible();
@@ -163,6 +173,8 @@ class DC3D {
     Camera Oeil;
 
   private:
+    /// Sends the pixels whose stencil compares so with the value to the far plane.
+    void EcritLointain(unsigned comparaison, int valeur);
     void LitProfondeur();
     void EcritProfondeur();
 

@@ -38,6 +38,9 @@ class RepereImage {
     RepereImage& operator=(const RepereImage&) = delete;
 };
 
+/// The stencil value of far caps that are to be opened: those inside are 1, those written 2.
+constexpr int FondOuvert = 3;
+
 void QuadPlein() {
     const RepereImage repere;
     glTranslatef(0.0f, 0.0f, 1.0f);
@@ -146,14 +149,18 @@ void DC3D::EtatCompte() {
     glCullFace(GL_BACK);
 }
 
-void DC3D::EffaceHorsCompte() {
-    glStencilFunc(GL_NOTEQUAL, CompteStencil, 0xff);
+void DC3D::EcritLointain(unsigned comparaison, int valeur) {
+    glStencilFunc(comparaison, valeur, 0xff);
     glStencilOp(GL_ZERO, GL_ZERO, GL_ZERO);
     glDepthFunc(GL_ALWAYS);
     glDepthRange(1.0, 1.0);
     glDepthMask(GL_TRUE);
     glDisable(GL_CULL_FACE);
     QuadPlein();
+}
+
+void DC3D::EffaceHorsCompte() {
+    EcritLointain(GL_NOTEQUAL, CompteStencil);
 }
 
 void DC3D::EtatMarqueCreux() {
@@ -189,27 +196,60 @@ void DC3D::EtatCreux() {
     glCullFace(GL_FRONT);
 }
 
-void DC3D::EtatEntree() {
+void DC3D::EtatEntreeFonds() {
     EtatMarqueCreux();
     glStencilFunc(GL_ALWAYS, 0, 0xff);
     glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
 }
 
+// No more is allowed for than rounding: with a whole pixel of slope a thread of the wall that is
+// left would stay.
 void DC3D::EtatEntreeParoi() {
     glDepthFunc(GL_LESS);
-    glPolygonOffset(1.0f, 4.0f);
+    glPolygonOffset(0.1f, 4.0f);
 }
 
-void DC3D::EtatSortie() {
+void DC3D::EtatSortieParoi() {
     glStencilOp(GL_KEEP, GL_KEEP, GL_DECR);
     glDepthFunc(GL_LEQUAL);
-    glPolygonOffset(-1.0f, -4.0f);
+    glPolygonOffset(-0.1f, -4.0f);
     glCullFace(GL_FRONT);
+}
+
+void DC3D::EtatSortieOuverte() {
+    glDepthFunc(GL_LESS);
+    glPolygonOffset(0.1f, 4.0f);
 }
 
 void DC3D::EtatApprofondit() {
     EtatCreux();
     glDepthFunc(GL_GREATER);
+}
+
+void DC3D::EtatFondMarque() {
+    glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
+}
+
+void DC3D::EtatDosDuSolide() {
+    glStencilFunc(GL_EQUAL, FondOuvert - 1, 0xff);
+    glDepthFunc(GL_LEQUAL);
+    glDepthMask(GL_FALSE);
+    glEnable(GL_POLYGON_OFFSET_FILL);
+    glPolygonOffset(-1.0f, -4.0f);
+    glCullFace(GL_BACK);
+}
+
+void DC3D::EtatFondRestant() {
+    EtatMarqueCreux();
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    glStencilFunc(GL_ALWAYS, FondOuvert, 0xff);
+    glDepthFunc(GL_EQUAL);
+    glCullFace(GL_FRONT);
+}
+
+void DC3D::OuvreMarques() {
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    EcritLointain(GL_EQUAL, FondOuvert);
 }
 
 void DC3D::EtatFondVisible() {

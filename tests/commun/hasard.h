@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <random>
 
 #include "elements/pointvek.h"
@@ -16,3 +17,9 @@ class Hasard {
   private:
     std::mt19937 Moteur;
 };
+
+/// The seed of a user who acts at random: `KRVEK_GRAINE` where it is set, for longer runs.
+inline unsigned Graine(unsigned habituelle) {
+    const char* const autre = std::getenv("KRVEK_GRAINE");
+    return autre ? static_cast<unsigned>(std::strtoul(autre, nullptr, 10)) : habituelle;
+}

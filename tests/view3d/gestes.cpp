@@ -66,7 +66,10 @@ TEST(Gestes3D, DeplaceSansAnnulation) {
     Banc3D banc;
     EltGeo* pave = banc.Ajoute(Plaque());
     BddCourante.Modifie = false;
-    Edite(banc, *pave, "Deplace");
+    // A click counts where it is, even when the window came under a mouse that did not move.
+    banc.Bouge(5.0, 5.0);
+    banc.Clique(Pixel(pave->Position).x, Pixel(pave->Position).y);
+    banc.Choisit("Deplace");
     BougeA(banc, {0.0, 0.0});
     EXPECT_PRES(pave->Position, 20.0, 10.0, 0.0);
     CliqueA(banc, {-40.0, 25.0});

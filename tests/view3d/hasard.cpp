@@ -5,9 +5,6 @@
 #include <glibmm/main.h>
 #include <gtest/gtest.h>
 
-#include <iterator>
-#include <stdexcept>
-
 #include "commun/hasard.h"
 #include "model/bddgeo.h"
 #include "scene.h"
@@ -23,52 +20,14 @@ class Utilisateur {
     ~Utilisateur() { Reponses.disconnect(); }
 
     void Agit() {
-        const int choix = Des.Entier(100);
-        if (choix < 35)
-            Lieu.Bouge(Des.Reel(-20.0, 620.0), Des.Reel(-20.0, 620.0),
-                       Des.Entier(4) ? 0 : GDK_BUTTON3_MASK);
-        else if (choix < 60)
-            Clique();
-        else if (choix < 70)
-            Lieu.Roule(Des.Entier(2) ? GDK_SCROLL_UP : GDK_SCROLL_DOWN);
-        else if (choix < 85)
-            Tape();
+        if (Des.Entier(100) < 85)
+            Lieu.Agit(Des);
         else
             ChangeDessin();
         if (Des.Entier(4) == 0) Lieu.Image();
     }
 
   private:
-    void Clique() {
-        static const char* const actions[] = {
-            "Prop",      "Deplace",    "Alpha",      "Beta",      "Gamma",   "Direction",
-            "AxeX",      "AxeY",       "AxeZ",       "Deforme",   "Texture", "Accrochage",
-            "VueFace",   "VueGauche",  "VueDessous", "VueDroite", "Lum0",    "Lum1",
-            "VueDessus", "VisuCentre", "VueDerriere"};
-        // An element is found near its own height.
-        if (Des.Entier(2)) Lieu.Frappe(GDK_z);
-        Lieu.Clique(Des.Reel(0.0, 600.0), Des.Reel(0.0, 600.0));
-        try {
-            Lieu.Choisit(actions[Des.Entier(static_cast<int>(std::size(actions)))]);
-        } catch (const std::runtime_error&) {
-            // The other menu is open, or none.
-            Lieu.MenuOuvert("Prop");
-            Lieu.MenuOuvert("Lum0");
-        }
-    }
-
-    void Tape() {
-        static const unsigned touches[] = {
-            GDK_Up, GDK_Down, GDK_Left, GDK_Right, GDK_Page_Up, GDK_Page_Down, GDK_Escape,
-            GDK_f,  GDK_d,    GDK_g,    GDK_h,     GDK_e,       GDK_r,         GDK_a,
-            GDK_z,  GDK_j,    GDK_J,    GDK_k,     GDK_K,       GDK_l,         GDK_L,
-            GDK_p,  GDK_P,    GDK_C,    GDK_B};
-        static const unsigned etats[] = {0, GDK_SHIFT_MASK, GDK_CONTROL_MASK,
-                                         GDK_SHIFT_MASK | GDK_CONTROL_MASK};
-        Lieu.Frappe(touches[Des.Entier(static_cast<int>(std::size(touches)))],
-                    etats[Des.Entier(4)]);
-    }
-
     void ChangeDessin() {
         const PointVek p = Des.Point(80.0);
         switch (Des.Entier(6)) {
@@ -109,7 +68,7 @@ class Utilisateur {
     }
 
     Banc3D& Lieu;
-    Hasard Des{7};
+    Hasard Des{Graine(7)};
     sigc::connection Reponses;
 };
 

@@ -2,12 +2,14 @@
 
 #include <gdk/gdkkeysyms.h>
 #include <glibmm/fileutils.h>
+#include <glibmm/miscutils.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <cmath>
 #include <set>
 
+#include "commun/record.h"
 #include "model/bddgeo.h"
 #include "scene.h"
 #include "solids/eltpave.h"
@@ -80,16 +82,19 @@ TEST(Listes, CeQuiNeChangePasNEstPasRefait) {
     EXPECT_EQ(Teinte(banc.Image().Pixel(560, 280)), 0);
 }
 
+TEST(Listes, LaPremiereImageEstCelleDApres) {
+    Banc3D banc;
+    BddCourante.ChargeTexte(Contenu(KRVEK_ESSAIS "/solids/data/profils.vek"));
+    const Capture premiere = banc.Image();
+    EXPECT_EQ(banc.Image().Ecart(premiere), 0);
+}
+
 TEST(Textures, RangeesDroites) {
     // Rows of 15 bytes that stand 16 apart.
-    const auto image = Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, false, 8, 5, 4);
-    const guint8 couleurs[5][3] = {
-        {255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 0}, {0, 255, 255}};
+    std::vector<int> teintes;
     for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 5; ++x)
-            std::copy_n(couleurs[x], 3, image->get_pixels() + y * image->get_rowstride() + 3 * x);
-    const std::string nom = Dossier() + "/bandes.png";
-    image->save(nom, "png");
+        teintes.insert(teintes.end(), {1, 2, 4, 3, 6});
+    const std::string nom = ImageDeTeintes("bandes.png", 5, teintes);
     Banc3D banc;
     PaveCompte pave;
     pave.texture = nom;
@@ -105,6 +110,17 @@ TEST(Textures, RangeesDroites) {
     banc.Clique(5.0, 5.0);
     banc.Choisit("Texture");
     EXPECT_EQ(Bandes(banc.Image(), 280), std::vector<int>(5, 7));
+}
+
+TEST(Textures, ACoteDuDessin) {
+    const std::string chemin = ImageDeTeintes("rouge.png", 1, {1});
+    Banc3D banc;
+    BddCourante.NomFichier = Glib::build_filename(Glib::path_get_dirname(chemin), "dessin.vek");
+    PaveCompte pave;
+    pave.texture = "rouge.png";
+    BddCourante.Ajoute(pave);
+    EXPECT_EQ(Teinte(Centre(banc.Image())), 1);
+    BddCourante.NomFichier.clear();
 }
 
 TEST(Textures, CeQuiNEstPasUneImageEstBlanc) {

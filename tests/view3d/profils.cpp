@@ -195,6 +195,8 @@ TEST(ProfilsEnImage, UneRainureEnRectangleEstUneRainure) {
             rainure.debouchant = debouchant;
             rainure.Position = {10, 5, debouchant ? -10.0 : 2.0};
             rainure.h = debouchant ? 20 : 8;
+            // The caps of a groove are whole ones.
+            rainure.gourault = retour;
             corps->AjouteFils(Pose(rainure, 2));
             const Forme creux{Forme::Pave, rainure.Position, 30, 15, rainure.h, 2};
             VerifieVues(banc, {{plaque, {{creux, debouchant}}}},

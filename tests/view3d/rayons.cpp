@@ -10,6 +10,9 @@ namespace {
 constexpr double Proche = 0.1, Loin = 1000.0;
 constexpr double Presque = 1e-6;
 
+/// Half the side of what shows, at one unit along the view.
+const double Bord = std::tan(22.5 * std::acos(-1.0) / 180.0);
+
 /// Three rows.
 struct Matrice {
     PointVek L[3];
@@ -83,14 +86,24 @@ std::optional<Intervalle> Dedans(const Forme& forme, const PointVek& depart,
     return reste;
 }
 
-/// The first point of the solid on the ray: where, and of which colour. Holes meet the surface
-/// exactly, so that a skin of no thickness is none.
-std::optional<std::pair<double, int>> Premier(const Solide& solide, const PointVek& depart,
-                                              const PointVek& direction) {
-    const auto corps = Dedans(solide.Corps, depart, direction);
+/// Where a ray meets something, and of which colour.
+using Rencontre = std::pair<double, int>;
+
+/// The first point of the solid on the ray. Holes meet the surface exactly, so that a skin of no
+/// thickness is none.
+std::optional<Rencontre> Premier(const Solide& solide, const PointVek& depart,
+                                 const PointVek& direction) {
+    auto corps = Dedans(solide.Corps, depart, direction);
     if (!corps) return {};
-    double t = corps->first;
     int couleur = solide.Corps.Couleur;
+    for (const Forme& enveloppe : solide.Enveloppes) {
+        const auto dedans = Dedans(enveloppe, depart, direction);
+        if (!dedans) return {};
+        if (dedans->first > corps->first) couleur = enveloppe.Couleur;
+        Tranche(corps, 0.0, 1.0, dedans->first, dedans->second);
+        if (!corps) return {};
+    }
+    double t = corps->first;
     for (bool avance = true; avance;) {
         avance = false;
         for (const Creux& creux : solide.Enleves) {
@@ -102,7 +115,60 @@ std::optional<std::pair<double, int>> Premier(const Solide& solide, const PointV
         }
     }
     if (t >= corps->second - Presque || t < Proche) return {};
-    return std::make_pair(t, couleur);
+    return Rencontre(t, couleur);
+}
+
+/// The pieces of a ray in a body of several parts, from the nearest on.
+std::vector<Intervalle> Morceaux(const Solide& solide, const PointVek& depart,
+                                 const PointVek& direction) {
+    std::vector<Intervalle> parts, morceaux;
+    if (const auto dedans = Dedans(solide.Corps, depart, direction)) parts.push_back(*dedans);
+    for (const Forme& suite : solide.Suite)
+        if (const auto dedans = Dedans(suite, depart, direction)) parts.push_back(*dedans);
+    std::sort(parts.begin(), parts.end());
+    for (const Intervalle& part : parts)
+        if (morceaux.empty() || part.first > morceaux.back().second + Presque)
+            morceaux.push_back(part);
+        else
+            morceaux.back().second = std::max(morceaux.back().second, part.second);
+    return morceaux;
+}
+
+/// Whether the point lies in the plane of one of the ends.
+bool SurFond(const Forme& forme, const PointVek& p) {
+    const double z =
+        Rotation(forme.Alpha, forme.Beta, forme.Gamma).Transposee(p - forme.Position).z;
+    return std::min(std::abs(z), std::abs(z - forme.H)) < Presque;
+}
+
+/// What the passes leave on the ray: the farthest near side, where the body and its envelopes have
+/// as many far sides as they are; then hole after hole, where its mouth is not behind what stands
+/// there: its wall, or its far end, which a through hole opens whatever is behind.
+std::optional<Rencontre> ParPasses(const Solide& solide, const PointVek& depart,
+                                   const PointVek& direction) {
+    constexpr double avance = 0.25;  // The mark comes forward by some steps of the depth.
+    const auto morceaux = Morceaux(solide, depart, direction);
+    std::size_t fonds = morceaux.size();
+    Rencontre reste(Loin, 0);
+    if (!morceaux.empty()) reste = {morceaux.back().first, solide.Corps.Couleur};
+    for (std::size_t i = 0; i < solide.Enveloppes.size(); ++i) {
+        const auto dedans = Dedans(solide.Enveloppes[i], depart, direction);
+        if (!dedans) continue;
+        ++fonds;
+        if (i >= solide.Avant && (morceaux.empty() || dedans->first > reste.first))
+            reste = {dedans->first, solide.Enveloppes[i].Couleur};
+    }
+    if (fonds != 1 + solide.Enveloppes.size()) reste = {Loin, 0};
+    for (const Creux& creux : solide.Enleves) {
+        const auto vide = Dedans(creux.Place, depart, direction);
+        if (!vide || !SurFond(creux.Place, depart + direction * vide->first)) continue;
+        if (vide->first > reste.first + avance) continue;
+        reste = {vide->second, creux.Place.Couleur};
+        if (creux.Debouchant && SurFond(creux.Place, depart + direction * vide->second))
+            reste = {Loin, 0};
+    }
+    if (!reste.second) return {};
+    return reste;
 }
 
 }  // namespace
@@ -113,19 +179,24 @@ PointVek TranslationRecul(const Vue& vue, double distance) {
 
 Touche Lance(const std::vector<Solide>& scene, const Vue& vue, int x, int y, int cote) {
     const Matrice axes = Rotation(vue.Alpha, vue.Beta, vue.Gamma);
-    const double bord = std::tan(22.5 * std::acos(-1.0) / 180.0);
     // One unit along the view for each unit of t.
-    const PointVek oeil(bord * (2.0 * (x + 0.5) / cote - 1.0),
-                        bord * (2.0 * (y + 0.5) / cote - 1.0), -1.0);
+    const PointVek oeil(Bord * (2.0 * (x + 0.5) / cote - 1.0),
+                        Bord * (2.0 * (y + 0.5) / cote - 1.0), -1.0);
     const PointVek depart = -vue.Translation, direction = axes.Transposee(oeil);
     double t = Loin;
     Touche touche;
     for (const Solide& solide : scene) {
-        const auto premier = Premier(solide, depart, direction);
+        const auto premier = (solide.ParPasses ? ParPasses : Premier)(solide, depart, direction);
         if (!premier || premier->first >= t) continue;
         t = premier->first;
         touche.Couleur = premier->second;
     }
     if (touche.Couleur) touche.Profondeur = Loin / (Loin - Proche) * (1.0 - Proche / t);
     return touche;
+}
+
+PointVek OuApparait(const Vue& vue, const PointVek& p, int cote) {
+    const PointVek q = Rotation(vue.Alpha, vue.Beta, vue.Gamma) * (p + vue.Translation);
+    const double echelle = cote / (-2.0 * q.z * Bord);
+    return {cote / 2.0 + q.x * echelle, cote / 2.0 - q.y * echelle};
 }

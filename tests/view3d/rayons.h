@@ -26,6 +26,12 @@ struct Creux {
 struct Solide {
     Forme Corps;
     std::vector<Creux> Enleves;
+    std::vector<Forme> Enveloppes = {};  ///< Balls that it lies inside.
+
+    /// Seen as the passes of the view leave it, pixel by pixel, and not as it is.
+    bool ParPasses = false;
+    std::size_t Avant = 0;          ///< How many envelopes stand before the first hole.
+    std::vector<Forme> Suite = {};  ///< By passes alone: more parts of one body.
 };
 
 /// Where the scene is seen from: translation, then turned as a body is.
@@ -45,3 +51,6 @@ struct Touche {
 
 /// The pixel at column x and row y from below, of a square picture of that side.
 Touche Lance(const std::vector<Solide>& scene, const Vue& vue, int x, int y, int cote);
+
+/// The pixel where a point shows, from the upper left corner of such a picture.
+PointVek OuApparait(const Vue& vue, const PointVek& p, int cote);

@@ -3,13 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <gdk/gdkkeysyms.h>
-#include <gtkmm/menu.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
 
-#include "model/bddgeo.h"
+#include "solids/eltenvboule.h"
 #include "solids/eltpercage.h"
 #include "solids/eltrainure.h"
 #include "solids/eltsphere.h"
@@ -44,14 +42,19 @@ EltGeo* AjouteCylindre(Elt&& elt, const Forme& forme) {
     return BddCourante.Ajoute(elt);
 }
 
+template <class Elt>
+EltGeo* AjouteBoule(Elt&& elt, const Forme& forme) {
+    elt.Place(forme.Position);
+    elt.Rayon = forme.A;
+    elt.facetisation = 150;
+    Habille(elt, forme);
+    return BddCourante.Ajoute(elt);
+}
+
 EltGeo* AjouteForme(const Forme& forme) {
     if (forme.Quoi == Forme::Pave) return AjoutePave(EltPave(), forme);
     if (forme.Quoi == Forme::Cylindre) return AjouteCylindre(EltCylindre(), forme);
-    EltSphere boule;
-    boule.Place(forme.Position);
-    boule.Rayon = forme.A;
-    Habille(boule, forme);
-    return BddCourante.Ajoute(boule);
+    return AjouteBoule(EltSphere(), forme);
 }
 
 EltGeo* AjouteCreux(const Creux& creux) {
@@ -67,7 +70,7 @@ EltGeo* AjouteCreux(const Creux& creux) {
 
 }  // namespace
 
-Banc3D::Banc3D() : Fenetre(BddCourante), Zone(*PremierDe<Dessin3D>(Fenetre)) {
+Banc3D::Banc3D() : Main3D(Fenetre3D) {
     BddCourante.Vide();
     BddCourante.SetCalqueAffiche(-1);
     Fenetre.set_resizable(false);
@@ -82,94 +85,20 @@ Banc3D::~Banc3D() {
 }
 
 EltGeo* Banc3D::Ajoute(const Solide& solide) {
-    EltGeo* corps = AjouteForme(solide.Corps);
+    return Garnit(AjouteForme(solide.Corps), solide);
+}
+
+EltGeo* Banc3D::Garnit(EltGeo* corps, const Solide& solide) {
+    std::size_t rang = 0;
+    const auto enveloppe = [&](std::size_t fin) {
+        for (; rang < fin; ++rang)
+            corps->AjouteFils(AjouteBoule(EltEnvBoule(), solide.Enveloppes[rang]));
+    };
+    enveloppe(solide.Avant);
     for (const Creux& creux : solide.Enleves)
         corps->AjouteFils(AjouteCreux(creux));
+    enveloppe(solide.Enveloppes.size());
     return corps;
-}
-
-void Banc3D::Bouge(double x, double y, unsigned etat) {
-    GdkEvent evenement = {};
-    evenement.motion.type = GDK_MOTION_NOTIFY;
-    evenement.motion.window = Zone.get_window()->gobj();
-    evenement.motion.x = x;
-    evenement.motion.y = y;
-    evenement.motion.state = etat;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
-}
-
-void Banc3D::Clique(double x, double y) {
-    GdkEvent evenement = {};
-    evenement.button.type = GDK_BUTTON_PRESS;
-    evenement.button.window = Zone.get_window()->gobj();
-    evenement.button.x = x;
-    evenement.button.y = y;
-    evenement.button.button = 1;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
-    LaisseTourner();
-}
-
-void Banc3D::Roule(GdkScrollDirection sens, unsigned etat) {
-    GdkEvent evenement = {};
-    evenement.scroll.type = GDK_SCROLL;
-    evenement.scroll.window = Zone.get_window()->gobj();
-    evenement.scroll.x = 300.0;
-    evenement.scroll.y = 300.0;
-    evenement.scroll.state = etat;
-    evenement.scroll.direction = sens;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
-}
-
-void Banc3D::Frappe(unsigned touche, unsigned etat) {
-    GdkEvent evenement = {};
-    evenement.key.type = GDK_KEY_PRESS;
-    evenement.key.window = Fenetre.get_window()->gobj();
-    evenement.key.keyval = touche;
-    evenement.key.state = etat;
-    gtk_widget_event(GTK_WIDGET(Fenetre.gobj()), &evenement);
-}
-
-Gtk::MenuItem* Banc3D::Entree(const std::string& action) {
-    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-        auto* menu = fenetre->get_visible() ? PremierDe<Gtk::Menu>(*fenetre) : nullptr;
-        if (!menu) continue;
-        std::vector<Gtk::MenuItem*> entrees;
-        Recolte(*menu, entrees);
-        for (std::size_t i = 0; i < entrees.size(); ++i) {
-            if (Gtk::Menu* sous = entrees[i]->get_submenu()) Recolte(*sous, entrees);
-            GtkAction* liee =
-                gtk_activatable_get_related_action(GTK_ACTIVATABLE(entrees[i]->gobj()));
-            if (liee && gtk_action_get_name(liee) == action) return entrees[i];
-        }
-    }
-    return nullptr;
-}
-
-namespace {
-
-void Ferme(Gtk::MenuItem& entree) {
-    Gtk::Widget* menu = entree.get_parent();
-    while (auto* element =
-               dynamic_cast<Gtk::MenuItem*>(static_cast<Gtk::Menu*>(menu)->get_attach_widget()))
-        menu = element->get_parent();
-    static_cast<Gtk::Menu*>(menu)->popdown();
-    LaisseTourner();
-}
-
-}  // namespace
-
-void Banc3D::Choisit(const std::string& action) {
-    Gtk::MenuItem* entree = Entree(action);
-    if (!entree) throw std::runtime_error("no entry " + action);
-    Ferme(*entree);
-    entree->activate();
-    LaisseTourner();
-}
-
-bool Banc3D::MenuOuvert(const std::string& action) {
-    Gtk::MenuItem* entree = Entree(action);
-    if (entree) Ferme(*entree);
-    return entree;
 }
 
 Vue Banc3D::Regarde(int alpha, int beta, int gamma) {
@@ -191,17 +120,24 @@ Vue Banc3D::Regarde(int alpha, int beta, int gamma) {
     return vue;
 }
 
-Capture Banc3D::Image() {
-    Zone.queue_draw();
-    LaisseTourner();
-    return Capture(Zone.get_window());
-}
-
 int Teinte(unsigned couleur) {
     const unsigned r = couleur >> 16, v = couleur >> 8 & 0xff, b = couleur & 0xff;
     const unsigned fort = std::max({r, v, b});
     if (fort < 40) return 0;
     return (r > fort / 2) | (v > fort / 2) << 1 | (b > fort / 2) << 2;
+}
+
+std::string ImageDeTeintes(const std::string& nom, int largeur, const std::vector<int>& teintes) {
+    const int nombre = static_cast<int>(teintes.size());
+    const auto image =
+        Gdk::Pixbuf::create(Gdk::COLORSPACE_RGB, false, 8, largeur, nombre / largeur);
+    for (int i = 0; i < nombre; ++i)
+        for (int c = 0; c < 3; ++c)
+            image->get_pixels()[i / largeur * image->get_rowstride() + i % largeur * 3 + c] =
+                teintes[static_cast<std::size_t>(i)] >> c & 1 ? 255 : 0;
+    const std::string chemin = std::string(g_get_home_dir()) + '/' + nom;
+    image->save(chemin, "png");
+    return chemin;
 }
 
 Accord::Accord(const std::vector<Solide>& scene, const Vue& vue, const Capture& image,
@@ -230,7 +166,16 @@ Accord::Accord(const std::vector<Solide>& scene, const Vue& vue, const Capture& 
         }
     Part = 1.0 - static_cast<double>(faux) / std::max(montres, 1);
     LoinDesBords = static_cast<double>(loin) / std::max(montres, 1);
-    if (Part < 0.995 || LoinDesBords > 0.0005) image.Garde(nom);
+    if (Part >= 0.995 && LoinDesBords <= 0.0005) return;
+    image.Garde(nom);
+    Capture attendue = image;
+    attendue.Image = image.Image->copy();
+    for (int y = 0; y < cote; ++y)
+        for (int x = 0; x < cote; ++x)
+            for (int canal = 0; canal < 3; ++canal)
+                attendue.Image->get_pixels()[y * attendue.Image->get_rowstride() + 3 * x + canal] =
+                    rayon(x, y) >> canal & 1 ? 255 : 0;
+    attendue.Garde(nom + "_rayons");
 }
 
 void VerifieVues(Banc3D& banc, const std::vector<Solide>& scene, const std::vector<Angles>& vues,

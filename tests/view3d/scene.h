@@ -3,42 +3,31 @@
 #include <string>
 #include <vector>
 
-#include "commun/banc.h"
+#include "commun/main3d.h"
+#include "model/bddgeo.h"
 #include "rayons.h"
-#include "view3d/window3d.h"
+
+/// The 3D window of a bench, there before the hands that hold it.
+struct FenetreDeBanc3D {
+    Window3D Fenetre3D{BddCourante};
+};
 
 /// The real 3D window on the drawing, with hands for mouse and keys.
-class Banc3D {
+class Banc3D : private FenetreDeBanc3D, public Main3D {
   public:
     Banc3D();
     ~Banc3D();
 
-    /// Adds the solid with its holes to the drawing; answers the body.
+    /// Adds the solid with its envelopes and holes to the drawing; answers the body.
     EltGeo* Ajoute(const Solide& solide);
 
-    // Pixels of the area, from its upper left corner.
-    void Bouge(double x, double y, unsigned etat = 0);
-    void Clique(double x, double y);
-    void Roule(GdkScrollDirection sens, unsigned etat = 0);
-    void Frappe(unsigned touche, unsigned etat = 0);
-
-    /// Chooses an action of the menu that is open.
-    void Choisit(const std::string& action);
-
-    /// Whether the last click opened a menu with that action; closes it.
-    bool MenuOuvert(const std::string& action);
+    /// Gives its envelopes and holes to another body; answers it.
+    static EltGeo* Garnit(EltGeo* corps, const Solide& solide);
 
     /// Brings the view to these angles in degrees, at 300 units from the origin.
     Vue Regarde(int alpha, int beta, int gamma);
 
-    Capture Image();
-
-    Window3D Fenetre;
-    Dessin3D& Zone;
     int Editions = 0;  ///< How often an edit was told.
-
-  private:
-    Gtk::MenuItem* Entree(const std::string& action);
 };
 
 /// Which of red (1), green (2) and blue (4) show in a colour, whatever the light; 0 for the
@@ -54,6 +43,9 @@ struct Accord {
     double Part;          ///< Of the pixels, those that agree.
     double LoinDesBords;  ///< Those that agree with no ray of their neighbours either.
 };
+
+/// Makes an image file of rows of hues; its name.
+std::string ImageDeTeintes(const std::string& nom, int largeur, const std::vector<int>& teintes);
 
 /// Degrees, as `Banc3D::Regarde` takes them.
 struct Angles {

@@ -1,7 +1,10 @@
-// A user who clicks, types, pastes and answers at random, the same at every run: nothing breaks,
-// nothing stays on the screen that should not, and the drawing survives a save.
+// A user who clicks, types, pastes, opens files and answers at random, in the drawing's window and
+// in that of the 3D view at once, the same at every run: nothing breaks, nothing stays on the
+// screen that should not, and the drawing survives a save.
 
+#include <GL/gl.h>
 #include <gdk/gdkkeysyms.h>
+#include <glibmm/fileutils.h>
 #include <gtest/gtest.h>
 #include <gtkmm/clipboard.h>
 #include <gtkmm/entry.h>
@@ -12,10 +15,13 @@
 #include <set>
 
 #include "bureau.h"
+#include "commun/main3d.h"
 #include "commun/mutation.h"
 #include "commun/record.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
+#include "model/eltbdd.h"
+#include "solids/eltpave.h"
 #include "zone/etats.h"
 #include "zone/tableetats.h"
 
@@ -23,12 +29,11 @@ namespace {
 
 class Utilisateur {
   public:
-    explicit Utilisateur(Bureau& bureau) : Lieu(bureau) {
+    Utilisateur(Bureau& bureau, Main3D& vue) : Lieu(bureau), Vue(vue) {
         for (Gtk::MenuItem* entree : bureau.Entrees()) {
             // The help starts a browser, leaving ends the test, and the toolkit's own dialog on a
             // printer does not bear just any text in its fields.
-            static const std::set<std::string> interdites = {"", "Aide", "PrintDialog", "Quit",
-                                                             "Vue3D"};
+            static const std::set<std::string> interdites = {"", "Aide", "PrintDialog", "Quit"};
             if (entree->is_sensitive() && !interdites.count(NomAction(*entree)))
                 Entrees.push_back(entree);
         }
@@ -38,6 +43,7 @@ class Utilisateur {
     ~Utilisateur() { Reponses.disconnect(); }
 
     void Agit() {
+        if (Entre(0, 19) == 0) return AgitEnVue();
         const int x = Entre(-20, Lieu.Zone.Largeur() + 20);
         const int y = Entre(-20, Lieu.Zone.Hauteur() + 20);
         const int choix = Entre(0, 99);
@@ -58,6 +64,7 @@ class Utilisateur {
         else
             Entrees[Rang(Entrees.size())]->activate();
         if (Entre(0, 99) == 0) OffreUnDessin();
+        if (Entre(0, 199) == 0) OuvreUnDessin();
         if (Entre(0, 3) == 0) LaisseTourner();
         // A view that has been zoomed out of all proportion shows nothing more.
         if (EchelleCourante.Facteur > 1e4 || EchelleCourante.Facteur < 1e-4)
@@ -65,6 +72,21 @@ class Utilisateur {
     }
 
   private:
+    void AgitEnVue() {
+        // What is fine or full takes the view its time.
+        if (BddCourante.Elements.Nombre() > 60) Lieu.Zone.Nouveau();
+        for (EltGeo* elt : BddCourante.Elements)
+            if (auto* solide = dynamic_cast<Elt3d*>(elt)) solide->facetisation %= 16;
+        if (!Vue.Fenetre.get_visible()) {
+            if (Entre(0, 4) == 0) Lieu.Choisit("Vue3D");
+        } else if (Entre(0, 199) == 0) {
+            Vue.Frappe(GDK_End);
+        } else {
+            Vue.Agit(Des3D);
+            if (Entre(0, 5) == 0) Vue.Image();
+        }
+    }
+
     int Entre(int mini, int maxi) { return std::uniform_int_distribution<int>(mini, maxi)(Des); }
 
     std::size_t Rang(std::size_t nombre) {
@@ -98,6 +120,14 @@ class Utilisateur {
                 [] {});
     }
 
+    /// As `Open` does after its question; every fourth file has faults.
+    void OuvreUnDessin() {
+        const std::string texte = Solides[Entre(0, 1)];
+        const std::string nom = std::string(g_get_home_dir()) + "/hasard.vek";
+        Glib::file_set_contents(nom, Entre(0, 3) ? texte : Mute(texte, Fautes));
+        Lieu.Zone.OuvreZone(nom);
+    }
+
     bool Repond() {
         for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
             auto* dialogue = dynamic_cast<Gtk::Dialog*>(fenetre);
@@ -116,21 +146,66 @@ class Utilisateur {
     }
 
     Bureau& Lieu;
-    std::mt19937 Des{20121010};
-    Hasard Fautes{7};
+    Main3D& Vue;
+    std::mt19937 Des{Graine(20121010)};
+    Hasard Des3D{Graine(11)};
+    Hasard Fautes{Graine(7)};
     const std::string Feuille = Contenu(KRVEK_ESSAIS "/model/data/feuille.vek");
+    const std::string Solides[2] = {Contenu(KRVEK_ESSAIS "/solids/data/solides.vek"),
+                                    Contenu(KRVEK_ESSAIS "/solids/data/profils.vek")};
     std::vector<Gtk::MenuItem*> Entrees;
     sigc::connection Reponses;
 };
+
+/// The 3D window of the program.
+Window3D& Fenetre3D() {
+    for (Gtk::Window* fenetre : Gtk::Window::list_toplevels())
+        if (auto* trouvee = dynamic_cast<Window3D*>(fenetre)) return *trouvee;
+    throw std::runtime_error("no 3D window");
+}
+
+/// What an element holds is held by the same list.
+void VerifieFils(const BDDGeoBase& bdd) {
+    const std::set<const EltGeo*> elements(bdd.Elements.begin(), bdd.Elements.end());
+    for (const EltGeo* elt : bdd.Elements) {
+        for (const EltGeo* fils : elt->Fils)
+            EXPECT_TRUE(elements.count(fils));
+        if (const auto* groupe = dynamic_cast<const EltBDD*>(elt)) VerifieFils(groupe->Contenu);
+    }
+}
+
+/// The view shows what comes and goes.
+void VerifieRepeint(Main3D& vue) {
+    vue.Frappe(GDK_Escape);
+    for (int i = 0; i < 50; ++i)
+        vue.Frappe(GDK_p);
+    vue.Frappe(GDK_f);
+    vue.Bouge(5.0, 5.0);
+    const Capture avant = vue.Image();
+    EltPave pave;
+    pave.Origine = {-20.0, 20.0};
+    pave.Extremite = {20.0, -20.0};
+    pave.Deplace({0.0, 0.0, 240.0});
+    BddCourante.Ajoute(pave);
+    EXPECT_GT(vue.Image().Ecart(avant), 10000);
+    BddCourante.Annule();
+    // The snap marker waits for the mouse.
+    vue.Bouge(5.0, 5.0);
+    EXPECT_EQ(vue.Image().Ecart(avant), 0);
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
+}
 
 }  // namespace
 
 TEST(Hasard, PlusieursMilliersDeGestes) {
     Bureau bureau;
+    bureau.Choisit("Vue3D");
+    Main3D vue(Fenetre3D());
+    vue.Fenetre.move(680, 420);
     {
-        Utilisateur utilisateur(bureau);
+        Utilisateur utilisateur(bureau, vue);
         int plus = 0;
-        for (int i = 0; i < 6000; ++i) {
+        for (int i = 0; i < 3000; ++i) {
             utilisateur.Agit();
             plus = std::max(plus, BddCourante.Elements.Nombre());
         }
@@ -138,6 +213,10 @@ TEST(Hasard, PlusieursMilliersDeGestes) {
         LaisseTourner();
     }
     bureau.Zone.RazEtat();
+    VerifieFils(BddCourante);
+    vue.Fenetre.show();
+    VerifieRepeint(vue);
+    vue.Fenetre.hide();
     LaisseTourner();
     const Capture apres(bureau.Zone.get_window());
     bureau.Zone.Redessine();
