@@ -70,7 +70,7 @@ void PoseRond(EltGeo* porteur, const PointVek& centre, double rayon) {
 }
 
 /// A plate with as many holes, or in their place as many plain cylinders: what they cost undug.
-/// part: the radius of each to what it has of the side; beyond 0.5 they run into one another.
+/// part: the radius as a part of the step between two; beyond 0.5 they run into one another.
 template <class Rond>
 void PosePlaque(int trous, bool perce, double part = 0.3) {
     EltPave& plaque = PosePave({-100, 100}, {100, -100});

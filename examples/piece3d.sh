@@ -25,10 +25,11 @@ fond='#6a7f95' noir='#000000'
 installe $PAQUETS_DEMO
 ouvre_bureau "$PWD/build/piece3d"
 mkdir -p "$(dirname "$dessin")"
-copie=${dessin%.vek}_copie.vek
-rm -f "$dessin" "$copie"
-image=$(dirname "$dessin")/planche.png  # Beside the drawing, where it is looked for.
-[ examples/planche.png -ef "$image" ] || cp examples/planche.png "$image"
+copie=$bureau/copie.vek
+rm -f "$dessin"
+for dossier in "$bureau" "$(dirname "$dessin")"; do  # An image is looked for beside its drawing.
+    [ examples/planche.png -ef "$dossier/planche.png" ] || cp examples/planche.png "$dossier"
+done
 demarre
 cherche_origine
 xdotool key o  # Two pixels to the unit.

@@ -15,15 +15,15 @@ Gtk::Window* Annoncee = nullptr;  ///< By `FenetreDesDialogues`; null for none.
 /// none, the newest modal one, else the one announced or the oldest. Null when no window is shown.
 Gtk::Window* FenetreParente() {
     Gtk::Window* modale = nullptr;
-    Gtk::Window* ancienne = nullptr;
+    Gtk::Window* autre = nullptr;
     // The oldest come first.
     for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
         if (!fenetre->is_visible() || fenetre->get_window_type() != Gtk::WINDOW_TOPLEVEL) continue;
         if (fenetre->property_is_active()) return fenetre;
         if (fenetre->get_modal()) modale = fenetre;
-        if (!ancienne || fenetre == Annoncee) ancienne = fenetre;
+        if (!autre || fenetre == Annoncee) autre = fenetre;
     }
-    return modale ? modale : ancienne;
+    return modale ? modale : autre;
 }
 
 }  // namespace

@@ -179,6 +179,12 @@ int Elt3d::FacettesBornees() const {
 }
 
 int Elt3d::Facettes(const Grain& grain) const {
-    return FacettesTenables(
-        FacettesBornees(), [&](double f) { return Pieces(f, grain.Anneaux); }, grain.PiecesMax);
+    // With fewer a round body is none.
+    constexpr int facettesCorps = 4;
+    const auto tenables = [&](double maximum) {
+        return FacettesTenables(
+            FacettesBornees(), [&](double f) { return Pieces(f, grain.Anneaux); }, maximum);
+    };
+    return std::max(tenables(grain.PiecesMax),
+                    std::min(tenables(Grain().PiecesMax), facettesCorps));
 }

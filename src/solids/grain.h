@@ -16,6 +16,6 @@ struct Grain {
     }
 };
 
-/// At most facettes, and as few as it takes to hold cout(facettes) within maximum; not below 1 but
-/// where facettes is.
+/// At most facettes, and as few as it takes to hold cout(facettes), which grows with them, within
+/// maximum; not below 1 but where facettes is.
 int FacettesTenables(int facettes, const std::function<double(double)>& cout, double maximum);

@@ -7,7 +7,8 @@
 
 #include "elements/ecrivain.h"
 #include "elements/eltgeo.h"
-#include "solids/grain.h"
+#include "model/bddgeo.h"
+#include "solids/elt3d.h"
 
 namespace {
 
@@ -96,7 +97,7 @@ Etendue Place(const std::vector<GLfloat>& tampon, int nombre) {
     // What lies outside the cube was cut off at its faces, or is missing altogether.
     constexpr double limite = DemiCube * 0.999;
     constexpr double infini = HUGE_VAL;
-    Etendue place{{infini, infini, infini}, {-infini, -infini, -infini}, nombre > 0};
+    Etendue place{{infini, infini, infini}, {-infini, -infini, -infini}, true};
     const auto fin = static_cast<std::size_t>(nombre);
     for (std::size_t i = 0; i < fin;) {
         for (int reste = Sommets(tampon, i); reste > 0; --reste, i += 3) {
@@ -114,6 +115,7 @@ Etendue Place(const std::vector<GLfloat>& tampon, int nombre) {
 }  // namespace
 
 bool Etendue::Touche(const Etendue& autre) const {
+    if (EstVide() || autre.EstVide()) return false;
     if (!Bornee || !autre.Bornee) return true;
     const auto dehors = [](double haut, double bas) { return haut + Jeu < bas; };
     return !(dehors(Haut.x, autre.Bas.x) || dehors(autre.Haut.x, Bas.x) ||
@@ -214,6 +216,9 @@ std::string CorpsCompiles::RecordDe(const EltGeo& elt) const {
     if (elt.Type == TypeProfilTubeRond || elt.Type == TypeProfilBoaRond)
         for (const EltGeo* fils : elt.Fils)
             fils->Sauve(record);
+    // A texture may be a file beside the drawing.
+    const auto* solide = dynamic_cast<const Elt3d*>(&elt);
+    if (solide && !solide->texture.empty()) record << BddCourante.NomFichier;
     return record.Prend();
 }
 

@@ -18,6 +18,9 @@ struct Etendue {
     PointVek Haut;
     bool Bornee = false;  ///< False when it cannot be told: the corners then mean nothing.
 
+    /// Nothing is drawn.
+    bool EstVide() const { return Bornee && Haut.x < Bas.x; }
+
     /// Whether they have a point in common; also when that cannot be told.
     bool Touche(const Etendue& autre) const;
 };

@@ -109,74 +109,62 @@ void TailleDehors(DC3D& dc, const EltGeo& solide) {
     dc.EffaceHorsCompte();
 }
 
-/// Writes the walls of a hole or groove into the depth where its mouth shows, then its bottom, or
-/// the far plane where it goes through. Caps that only cover pixels are drawn in white: they may be
-/// coarser inside their outline than those that are painted.
-void EcritCreux(DC3D& dc, const EltGeo& fils) {
-    const bool debouchant = CommeSoustractif(fils)->debouchant;
-    dc.EtatFondVisible();
-    DessinePartie(dc, fils, Partie::Paroi, true);
-    if (debouchant) dc.EtatFondOuvert();
-    DessinePartie(dc, fils, Partie::Fonds, !debouchant);
-}
-
-/// Writes the far side of one that others run into, where it lies behind what stands there. The
-/// end of a through one is left for `OuvreFond`, since it may open into another one; a blind one is
-/// left by its mouth, which lies in the far side of the solid.
-void EcritMele(DC3D& dc, const EltGeo& solide, const EltGeo& fils) {
-    dc.EtatApprofondit();
-    dc.EtatFondVisible();
-    DessinePartie(dc, fils, Partie::Paroi, true);
-    if (CommeSoustractif(fils)->debouchant) return DessinePartie(dc, fils, Partie::Fonds, false);
-    dc.EtatFondMarque();
-    DessinePartie(dc, fils, Partie::Fonds, true);
-    dc.EtatDosDuSolide();
-    DessinePartie(dc, solide, Partie::Corps, false);
-    dc.OuvreMarques();
-}
-
-/// Opens the end of a through one where no other has taken it away.
-void OuvreFond(DC3D& dc, const EltGeo& fils) {
-    if (!CommeSoustractif(fils)->debouchant) return;
-    dc.EtatFondRestant();
-    DessinePartie(dc, fils, Partie::Fonds, false);
-    dc.OuvreMarques();
-}
-
 /// A hole or groove of a solid.
 struct Creux {
     const EltGeo* Elt;
+    bool Debouchant;
     bool Mele;  ///< Another one may run into it.
 };
 
-void Creuse(DC3D& dc, const EltGeo& solide, const Creux& creux) {
+/// Marks where its mouth shows, and writes its walls into the depth there, then its bottom, or the
+/// far plane where it goes through. Caps that only cover pixels are drawn in white: they may be
+/// coarser inside their outline than those that are painted.
+void Creuse(DC3D& dc, const Creux& creux) {
     dc.EtatMarqueCreux();
     DessinePartie(dc, *creux.Elt, Partie::Fonds, false);
-    if (creux.Mele) return EcritMele(dc, solide, *creux.Elt);
-    dc.EtatCreux();
-    EcritCreux(dc, *creux.Elt);
+    // Where several run into one another the deepest counts, and the ends wait for `OuvreFond`.
+    creux.Mele ? dc.EtatApprofondit() : dc.EtatCreux();
+    dc.EtatFondVisible();
+    DessinePartie(dc, *creux.Elt, Partie::Paroi, true);
+    if (creux.Debouchant && !creux.Mele) dc.EtatFondOuvert();
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, !creux.Debouchant);
 }
 
 /// Where what the depth buffer holds lies inside the hole or groove, as the walls of another one
 /// that runs into it do, writes its far side in its place.
-void Approfondit(DC3D& dc, const EltGeo& solide, const EltGeo& fils) {
+void Approfondit(DC3D& dc, const Creux& creux) {
     dc.EtatEntreeFonds();
-    DessinePartie(dc, fils, Partie::Fonds, false);
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, false);
     dc.EtatEntreeParoi();
-    DessinePartie(dc, fils, Partie::Paroi, true);
+    DessinePartie(dc, *creux.Elt, Partie::Paroi, true);
     dc.EtatSortieParoi();
-    DessinePartie(dc, fils, Partie::Paroi, true);
-    if (CommeSoustractif(fils)->debouchant) dc.EtatSortieOuverte();
-    DessinePartie(dc, fils, Partie::Fonds, false);
-    EcritMele(dc, solide, fils);
+    DessinePartie(dc, *creux.Elt, Partie::Paroi, true);
+    if (creux.Debouchant) dc.EtatSortieOuverte();
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, false);
+    dc.EtatApprofondit();
+    DessinePartie(dc, *creux.Elt, Partie::Paroi, true);
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, !creux.Debouchant);
+}
+
+/// Opens the far cap where no other one has taken it away: the end of a through one; of a blind
+/// one its mouth, seen from within, which lies in the far side of the solid.
+void OuvreFond(DC3D& dc, const EltGeo& solide, const Creux& creux) {
+    dc.EtatFondRestant(creux.Debouchant);
+    DessinePartie(dc, *creux.Elt, Partie::Fonds, !creux.Debouchant);
+    if (!creux.Debouchant) {
+        dc.EtatDosDuSolide();
+        DessinePartie(dc, solide, Partie::Corps, false);
+    }
+    dc.OuvreMarques();
 }
 
 std::vector<Creux> CreuxDe(DC3D& dc, const EltGeo& solide) {
     std::vector<Creux> creux;
     std::vector<const Etendue*> places;
     for (const EltGeo* fils : solide.Fils) {
-        if (!CommeSoustractif(*fils)) continue;
-        creux.push_back({fils, false});
+        const Soustractif* soustractif = CommeSoustractif(*fils);
+        if (!soustractif) continue;
+        creux.push_back({fils, soustractif->debouchant, false});
         places.push_back(&EtendueDe(dc, *fils, Partie::Paroi));
     }
     const std::vector<bool> meles = SeTouchent(places);
@@ -196,20 +184,30 @@ void PourChaque(DC3D& dc, const std::vector<Creux>& suite, const Fait& fait) {
     }
 }
 
-/// One after the other, or each would show the walls of the others through its own mouth. Those
-/// that run into one another are gone over again, both ways along the list: a sight that leaves one
-/// may cross several others.
-void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
-    std::vector<Creux> creux = CreuxDe(dc, solide);
-    PourChaque(dc, creux, [&](const Creux& un) { Creuse(dc, solide, un); });
+/// Those that others may run into, from the nearest to the eye on.
+std::vector<Creux> MelesDeDevant(DC3D& dc, std::vector<Creux> creux) {
     creux.erase(
         std::remove_if(creux.begin(), creux.end(), [](const Creux& un) { return !un.Mele; }),
         creux.end());
-    for (int sens = 0; sens < 2; ++sens) {
-        PourChaque(dc, creux, [&](const Creux& un) { Approfondit(dc, solide, *un.Elt); });
-        std::reverse(creux.begin(), creux.end());
-    }
-    PourChaque(dc, creux, [&](const Creux& un) { OuvreFond(dc, *un.Elt); });
+    const auto cote = [&dc](const Creux& un) {
+        const Etendue& place = EtendueDe(dc, *un.Elt, Partie::Paroi);
+        return dc.Oeil.VersVue((place.Bas + place.Haut) * 0.5).z;
+    };
+    std::stable_sort(creux.begin(), creux.end(),
+                     [&cote](const Creux& a, const Creux& b) { return cote(a) > cote(b); });
+    return creux;
+}
+
+/// One after the other, or each would show the walls of the others through its own mouth. Those
+/// that run into one another are gone over again as a sight would cross them, twice since boxes
+/// only tell about where they lie.
+void CreuseTout(DC3D& dc, const EltGeo& solide, const ZonePixels& zone) {
+    const std::vector<Creux> creux = CreuxDe(dc, solide);
+    PourChaque(dc, creux, [&](const Creux& un) { Creuse(dc, un); });
+    const std::vector<Creux> meles = MelesDeDevant(dc, creux);
+    for (int fois = 0; fois < 2; ++fois)
+        PourChaque(dc, meles, [&](const Creux& un) { Approfondit(dc, un); });
+    PourChaque(dc, meles, [&](const Creux& un) { OuvreFond(dc, solide, un); });
     dc.Limite(zone);
 }
 

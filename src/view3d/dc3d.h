@@ -137,9 +137,10 @@ class DC3D {
     void EtatMarqueCreux();
     void EtatCreux();
 
-    // For a hollow that another one runs into: near sides in front of the present depth are
-    // counted up, far sides down; then far sides are written where one more was entered than left.
-    // What lies in a mouth or in an open end is inside, what lies in a wall or a bottom is not.
+    // For a hollow that another one runs into, in this order: near sides in front of the present
+    // depth are counted up, far sides down; then far sides are written where one more was entered
+    // than left. What lies in a mouth, a near wall or an open end is inside, what lies in a far
+    // wall or a bottom is not.
 
     void EtatEntreeFonds();
     void EtatEntreeParoi();
@@ -147,13 +148,12 @@ class DC3D {
     void EtatSortieOuverte();
     void EtatApprofondit();
 
-    // Far caps through which the hollow is left go to the far plane: of those of a blind one that
-    // are written, the ones that the far side of the solid is not behind; of those of a through
-    // one, the ones that still stand.
+    // Then, in this order: the far caps that still stand are marked; when they are not all to be
+    // opened, those that the far side of the solid is not behind; the marked ones go to the far
+    // plane.
 
-    void EtatFondMarque();
+    void EtatFondRestant(bool aOuvrir);
     void EtatDosDuSolide();
-    void EtatFondRestant();
     void OuvreMarques();
 
     /// What is drawn next writes its own depth, or that of the far plane.

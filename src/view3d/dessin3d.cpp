@@ -82,6 +82,7 @@ void Dessin3D::DessineElements() {
 }
 
 void Dessin3D::DessineMarques() {
+    Dc.MetGrainCorps({});
     Curseur.Dessine3D(Dc, true);
     Dc.EtatFil();
     if (Accrochage && AccrocheTrouvee) MarqueAccroche.DessineFilaire(Dc);

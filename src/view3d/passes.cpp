@@ -38,8 +38,8 @@ class RepereImage {
     RepereImage& operator=(const RepereImage&) = delete;
 };
 
-/// The stencil value of far caps that are to be opened: those inside are 1, those written 2.
-constexpr int FondOuvert = 3;
+/// The stencil value of far caps that go to the far plane; those that may bear one less.
+constexpr int MarqueAOuvrir = 2;
 
 void QuadPlein() {
     const RepereImage repere;
@@ -65,6 +65,7 @@ ZonePixels ZonePixels::Reunie(const ZonePixels& autre) const {
 ZonePixels DC3D::ZoneDe(const Etendue& boite) const {
     const ZonePixels tout{0, 0, Largeur, Hauteur};
     if (!boite.Bornee) return tout;
+    if (boite.EstVide()) return {};
     constexpr int marge = 2;  // For rounding, here and in GL.
     const PointVek recul = Oeil.Recul();
     double gauche = HUGE_VAL, bas = HUGE_VAL, droite = -HUGE_VAL, haut = -HUGE_VAL;
@@ -205,14 +206,13 @@ void DC3D::EtatEntreeFonds() {
 // No more is allowed for than rounding: with a whole pixel of slope a thread of the wall that is
 // left would stay.
 void DC3D::EtatEntreeParoi() {
-    glDepthFunc(GL_LESS);
-    glPolygonOffset(0.1f, 4.0f);
+    glPolygonOffset(-0.02f, -2.0f);
 }
 
 void DC3D::EtatSortieParoi() {
     glStencilOp(GL_KEEP, GL_KEEP, GL_DECR);
     glDepthFunc(GL_LEQUAL);
-    glPolygonOffset(-0.1f, -4.0f);
+    glPolygonOffset(-0.02f, -2.0f);
     glCullFace(GL_FRONT);
 }
 
@@ -223,33 +223,32 @@ void DC3D::EtatSortieOuverte() {
 
 void DC3D::EtatApprofondit() {
     EtatCreux();
+    EtatFondVisible();
     glDepthFunc(GL_GREATER);
+    // A far side in front of what stands there leaves the mark to the next.
+    glStencilOp(GL_ZERO, GL_KEEP, GL_ZERO);
 }
 
-void DC3D::EtatFondMarque() {
-    glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
+void DC3D::EtatFondRestant(bool aOuvrir) {
+    EtatMarqueCreux();
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    glStencilFunc(GL_ALWAYS, aOuvrir ? MarqueAOuvrir : MarqueAOuvrir - 1, 0xff);
+    glDepthFunc(GL_EQUAL);
+    glCullFace(GL_FRONT);
 }
 
 void DC3D::EtatDosDuSolide() {
-    glStencilFunc(GL_EQUAL, FondOuvert - 1, 0xff);
+    glStencilFunc(GL_EQUAL, MarqueAOuvrir - 1, 0xff);
+    glStencilOp(GL_KEEP, GL_KEEP, GL_INCR);
     glDepthFunc(GL_LEQUAL);
-    glDepthMask(GL_FALSE);
     glEnable(GL_POLYGON_OFFSET_FILL);
     glPolygonOffset(-1.0f, -4.0f);
     glCullFace(GL_BACK);
 }
 
-void DC3D::EtatFondRestant() {
-    EtatMarqueCreux();
-    glDisable(GL_POLYGON_OFFSET_FILL);
-    glStencilFunc(GL_ALWAYS, FondOuvert, 0xff);
-    glDepthFunc(GL_EQUAL);
-    glCullFace(GL_FRONT);
-}
-
 void DC3D::OuvreMarques() {
     glDisable(GL_POLYGON_OFFSET_FILL);
-    EcritLointain(GL_EQUAL, FondOuvert);
+    EcritLointain(GL_EQUAL, MarqueAOuvrir);
 }
 
 void DC3D::EtatFondVisible() {

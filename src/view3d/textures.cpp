@@ -56,7 +56,7 @@ Glib::RefPtr<Gdk::Pixbuf> LitImage(const std::string& nom) {
 
 /// A name without its path may be that of a file beside the drawing.
 std::string Chemin(const std::string& nom) {
-    if (Glib::path_is_absolute(nom) || Glib::file_test(nom, Glib::FILE_TEST_EXISTS)) return nom;
+    if (Glib::path_is_absolute(nom) || Glib::file_test(nom, Glib::FILE_TEST_IS_REGULAR)) return nom;
     return Glib::build_filename(Glib::path_get_dirname(BddCourante.NomFichier), nom);
 }
 

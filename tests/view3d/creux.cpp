@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 #include "scene.h"
+#include "solids/eltpercage.h"
 #include "solids/eltprofilelevation.h"
 
 namespace {
@@ -83,6 +85,25 @@ TEST(Creux, QuiSeCoupent) {
     creux.insert(creux.begin() + 1, rainure);
     creux.push_back(Trou({0, -8, 2}, 15, 8, 6, false));
     Verifie({Plaque(creux)}, {Plaque(creux)}, "quatre");
+    // Two pockets with a wall in common have none, and one that draws nothing changes nothing.
+    creux = {{Pave({-20, 0, -4}, 20, 25, 14, 2), false}, {Pave({20, 0, 2}, 20, 25, 8, 4), false}};
+    Solide poches = Plaque(creux);
+    Banc3D banc;
+    EltGeo* plaque = banc.Ajoute(poches);
+    auto rien = std::make_unique<EltPercage>();
+    rien->facetisation = 0;
+    plaque->AjouteFils(BddCourante.AjouteFin(std::move(rien)));
+    banc.Bouge(-50, -50);
+    VerifieVues(banc, {poches}, Vues, "poches");
+}
+
+TEST(Creux, UneRangeeDansNImporteQuelOrdre) {
+    for (const std::array<int, 4>& ordre : {std::array<int, 4>{2, 0, 1, 3}, {3, 1, 0, 2}}) {
+        Solide bloc{Pave({0, 0, -30}, 60, 40, 60, 1), {}};
+        for (const int rang : ordre)
+            bloc.Enleves.push_back(Trou({-30.0 + 20.0 * rang, 0, -30}, 12, 60, 2 + rang, true));
+        Verifie({bloc}, {bloc}, "rangee" + std::to_string(ordre[0]));
+    }
 }
 
 TEST(Creux, DeuxEnveloppesEtUnTrou) {
