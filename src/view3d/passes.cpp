@@ -223,7 +223,6 @@ void DC3D::EtatSortieOuverte() {
 
 void DC3D::EtatApprofondit() {
     EtatCreux();
-    EtatFondVisible();
     glDepthFunc(GL_GREATER);
     // A far side in front of what stands there leaves the mark to the next.
     glStencilOp(GL_ZERO, GL_KEEP, GL_ZERO);

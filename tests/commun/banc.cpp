@@ -6,6 +6,7 @@
 #include <gtkmm/main.h>
 #include <gtkmm/menu.h>
 
+#include "commun/evenements.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 
@@ -75,22 +76,11 @@ void Capture::Garde(const std::string& nom) const {
 }
 
 void Main::Bouge(double x, double y) {
-    GdkEvent evenement = {};
-    evenement.motion.type = GDK_MOTION_NOTIFY;
-    evenement.motion.window = Zone.get_window()->gobj();
-    evenement.motion.x = x;
-    evenement.motion.y = y;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieMouvement(Zone, x, y);
 }
 
 void Main::Presse(double x, double y, int bouton, GdkEventType type) {
-    GdkEvent evenement = {};
-    evenement.button.type = type;
-    evenement.button.window = Zone.get_window()->gobj();
-    evenement.button.x = x;
-    evenement.button.y = y;
-    evenement.button.button = static_cast<guint>(bouton);
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieBouton(Zone, x, y, bouton, type);
 }
 
 std::vector<Gtk::MenuItem*> Main::MenuDroit(double x, double y) {
@@ -108,13 +98,7 @@ std::vector<Gtk::MenuItem*> Main::MenuDroit(double x, double y) {
 }
 
 void Main::Tourne(double x, double y, GdkScrollDirection sens) {
-    GdkEvent evenement = {};
-    evenement.scroll.type = GDK_SCROLL;
-    evenement.scroll.window = Zone.get_window()->gobj();
-    evenement.scroll.x = x;
-    evenement.scroll.y = y;
-    evenement.scroll.direction = sens;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieMolette(Zone, x, y, sens);
 }
 
 void Main::Touche(unsigned touche) {

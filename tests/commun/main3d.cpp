@@ -6,40 +6,22 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "commun/evenements.h"
 #include "model/bddgeo.h"
 
 Main3D::Main3D(Window3D& fenetre) : Fenetre(fenetre), Zone(*PremierDe<Dessin3D>(fenetre)) {}
 
 void Main3D::Bouge(double x, double y, unsigned etat) {
-    GdkEvent evenement = {};
-    evenement.motion.type = GDK_MOTION_NOTIFY;
-    evenement.motion.window = Zone.get_window()->gobj();
-    evenement.motion.x = x;
-    evenement.motion.y = y;
-    evenement.motion.state = etat;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieMouvement(Zone, x, y, etat);
 }
 
 void Main3D::Clique(double x, double y) {
-    GdkEvent evenement = {};
-    evenement.button.type = GDK_BUTTON_PRESS;
-    evenement.button.window = Zone.get_window()->gobj();
-    evenement.button.x = x;
-    evenement.button.y = y;
-    evenement.button.button = 1;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieBouton(Zone, x, y);
     LaisseTourner();
 }
 
 void Main3D::Roule(GdkScrollDirection sens, unsigned etat) {
-    GdkEvent evenement = {};
-    evenement.scroll.type = GDK_SCROLL;
-    evenement.scroll.window = Zone.get_window()->gobj();
-    evenement.scroll.x = 300.0;
-    evenement.scroll.y = 300.0;
-    evenement.scroll.state = etat;
-    evenement.scroll.direction = sens;
-    gtk_widget_event(GTK_WIDGET(Zone.gobj()), &evenement);
+    EnvoieMolette(Zone, 300.0, 300.0, sens, etat);
 }
 
 void Main3D::Frappe(unsigned touche, unsigned etat) {
