@@ -26,11 +26,11 @@ void Ecran::Tourne() {
 }
 
 void Ecran::Montre(double cote) {
-    EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2}, zone.Hauteur());
+    EchelleCourante.ZoomRectangle({-cote / 2, -cote / 2}, {cote / 2, cote / 2}, zone.Vue.Hauteur());
 }
 
 void Ecran::Repeint() {
-    zone.Redessine();
+    zone.Vue.Redessine();
     zone.get_window()->process_updates(false);
     gdk_display_sync(gdk_display_get_default());
 }

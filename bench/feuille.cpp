@@ -26,8 +26,8 @@ void FeuilleOuverte(benchmark::State& etat) {
 void FeuilleMotion(benchmark::State& etat) {
     Ecran ecran(FichierFeuille(static_cast<int>(etat.range(0))));
     ecran.Montre(Cote);
-    ecran.zone.Bascule(&OptionsAccrochage::Actif);
-    ecran.zone.Entre(ETAT_SEGMENT_2);
+    ecran.zone.Souris.Bascule(&OptionsAccrochage::Actif);
+    ecran.zone.Outils.Entre(ETAT_SEGMENT_2);
     ecran.Repeint();
     int pas = 0;
     for (auto _ : etat) {

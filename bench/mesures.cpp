@@ -77,8 +77,8 @@ void RepeinteCentieme(benchmark::State& etat) {
     Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     // One corner of the drawing, at the same scale.
     ecran.Montre(10200.0);
-    EchelleCourante.Origine = PointVek(4000.0 + ecran.zone.Largeur() / 2 / EchelleCourante.Facteur,
-                                       4000.0 + ecran.zone.Hauteur() / 2 / EchelleCourante.Facteur);
+    EchelleCourante.Origine = PointVek(4000.0 + ecran.zone.Vue.Largeur() / 2 / EchelleCourante.Facteur,
+                                       4000.0 + ecran.zone.Vue.Hauteur() / 2 / EchelleCourante.Facteur);
     for (auto _ : etat)
         ecran.Repeint();
 }
@@ -155,8 +155,8 @@ void RepeintePlancher(benchmark::State& etat) {
 void Motion(benchmark::State& etat, bool accrochage) {
     Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     ecran.Montre(10200.0);
-    if (accrochage) ecran.zone.Bascule(&OptionsAccrochage::Actif);
-    ecran.zone.Entre(ETAT_SEGMENT_2);
+    if (accrochage) ecran.zone.Souris.Bascule(&OptionsAccrochage::Actif);
+    ecran.zone.Outils.Entre(ETAT_SEGMENT_2);
     ecran.Repeint();
     ecran.Bouge(500, 400);
     int pas = 0;

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """dessins_dxf.py [FOLDER]: makes the DXF drawings that the tests of the reader use, with ezdxf
 (Debian's python3-ezdxf), a library that knows nothing of this program. What the program has to
-find in them stands in tests/exchange/dxfezdxf.cpp, worked out by hand."""
+find in them stands in tests/exchange/dxfezdxf.cpp, worked out by hand. Every run of one
+release of the library writes the same bytes."""
 
 import pathlib
 import sys
@@ -188,9 +189,14 @@ def donnees_etrangeres(doc, msp):
 
 def main():
     dossier = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".")
+    # Neither the hour nor fresh GUIDs, so that a file changes with its drawing alone.
+    ezdxf.options.write_fixed_meta_data_for_testing = True
     for nom, (version, remplit) in DESSINS.items():
         doc = ezdxf.new(version)
         remplit(doc, doc.modelspace())
+        # Saving declares what is left in the order of a set, another one on each run.
+        for classe in sorted(doc.entitydb.dxf_types_in_use()):
+            doc.classes.add_class(classe)
         doc.saveas(dossier / f"{nom}.dxf")
 
 

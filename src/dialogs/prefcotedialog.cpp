@@ -3,7 +3,7 @@
 #include "dialogs/nombres.h"
 #include "elements/eltcote.h"
 
-// The title is that of the texts: that is meant.
+// The title is that of the texts, by which users know this dialog too.
 PrefCoteDialog::PrefCoteDialog(EltCote* cote)
     : EltTxtDialog("Préférences Texte", cote, false), Decimales(TexteNombre(NbDecimales)) {
     AjouteChamp("Décimales", Decimales);

@@ -23,8 +23,8 @@ class EltArc : public EltGeo {
     void Dessine(Trace& trace) const override;
     void DessinePoignees(Trace& trace) const override;
 
-    /// Mirrors reach the angles, leaving a negative opening after one mirror; the rotation does
-    /// not: that is meant.
+    /// Mirrors reach the angles, leaving a negative opening after one mirror, which files hold too;
+    /// the rotation does not, as users know their pasted arcs.
     void Transforme(const TransformeColle& t) override;
     void ChangeTrait(const Trait& trait) override;
     void DebutDeforme(const PointVek& p) override;
@@ -74,7 +74,7 @@ class EltArc : public EltGeo {
     void Arc2Points(const PointVek& a, const PointVek& b);
 
     /// The arc from a to b whose centre is on the left of a to b, as far from the chord's middle as
-    /// c is, whichever side c is on: that is meant.
+    /// c is. The side of c plays no part: users choose it by the order of the two ends.
     void Arc3Points(const PointVek& a, const PointVek& b, const PointVek& c);
 
     /// The full circle centred on p and tangent to elt, through the centre of what is neither

@@ -172,7 +172,8 @@ void EltCoteAng::DessineLignes(Trace& trace) const {
     trace.Segment(a, e1);
     trace.Segment(b, e2);
     trace.Arc({s, ::Distance(s, e2), secteur.Debut, secteur.Ouverture}, false);
-    // From the origins of the segments and not from the apex: that is meant.
+    // From the origins of the segments and not from the apex: dimensions drawn so far keep their
+    // look.
     DessineFleche(trace, e1, Normale(b - e1));
     DessineFleche(trace, e2, Normale(e2 - a));
 }

@@ -3,7 +3,7 @@
 #include "elements/eltcotecercle.h"
 
 /// A diameter. From an arc the points are the ends of a diameter; placed by two clicks they are the
-/// clicks, whose distance is the value: that is meant.
+/// clicks. Their distance is the value either way: a record does not tell which way they came.
 class EltCoteDia : public EltCoteCercle {
   public:
     EltCoteDia() : EltCoteCercle(TypeCoteDia, "Nice") {}

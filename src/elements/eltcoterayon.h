@@ -2,7 +2,8 @@
 
 #include "elements/eltcotecercle.h"
 
-/// A radius. From an arc `Point2` is the centre; placed by two clicks `Point1` is: that is meant.
+/// A radius. From an arc `Point2` is the centre; placed by two clicks `Point1` is: files hold both
+/// orders.
 class EltCoteRayon : public EltCoteCercle {
   public:
     EltCoteRayon() : EltCoteCercle(TypeCoteRayon) {}

@@ -8,7 +8,7 @@ class EltDroite : public EltSegment {
     EltDroite();
 
     /// The line carries the type code of the rectangle, and so does its record in a file, which is
-    /// read back as a rectangle: that is meant.
+    /// read back as a rectangle: the form of the files written so far.
     EltDroite(const PointVek& origine, const PointVek& extremite, int calque);
     EltDroite(const EltDroite& source);
 

@@ -125,7 +125,8 @@ class EltGeo {
 
     void AjouteFils(EltGeo* fils);
 
-    /// Lowers the child's count even when it was not in the list: that is meant.
+    /// Lowers the child's count even when it was not in the list, as `ReferenceFils` raises it
+    /// without touching the list.
     void RetireFils(EltGeo* fils);
     void VideFils();
 

@@ -92,8 +92,8 @@ bool EltArc::Tangent2Elements(const EltGeo& premier, const EltGeo& second, const
         return TangentSegmentPoint(second, CommeSegment(premier));
     }
     if (premier.Type == TypePoint || premier.Type == TypeTxt) {
-        // With anything but a segment nothing is constructed, and the present circle is taken: that
-        // is meant.
+        // With anything but a segment the method knows no circle. The present one is taken, as
+        // users are used to see.
         return !EstDroit(second) || TangentSegmentPoint(premier, CommeSegment(second));
     }
     if (!EstArc(premier)) return false;

@@ -73,7 +73,7 @@ void TracePage::AppliqueTrait(const Trait& trait, Matiere matiere) {
 }
 
 void TracePage::PlaceTirets(double phase) {
-    // Dots stand farther apart than on the screen: that is meant.
+    // Dots stand farther apart than on the screen, as on the sheets printed so far.
     static const std::vector<double> tirets[] = {{}, {5.0}, {10.0, 5.0, 3.0, 5.0}, {2.0, 4.0}};
     const std::vector<double>& tiret =
         tirets[std::clamp<int>(Style.StyleLigne, Continu, Pointille)];

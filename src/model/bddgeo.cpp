@@ -5,6 +5,7 @@
 #include <glibmm/miscutils.h>
 #include <gtkmm/recentmanager.h>
 
+#include <unordered_map>
 #include <unordered_set>
 
 #include "elements/ecrivain.h"
@@ -31,7 +32,7 @@ EltGeo* BDDGeo::AjouteFin(std::unique_ptr<EltGeo> elt) {
 void BDDGeo::Vide() {
     Retrait.emit(nullptr);
     DernierTrouve = nullptr;
-    Annulations.clear();
+    Histoire.Vide();
     Table.Perime();
     BDDGeoBase::Vide();
     Modifie = false;
@@ -54,9 +55,8 @@ void BDDGeo::Dessine(Trace& trace) const {
 
 EltGeo* BDDGeo::Ajoute(std::unique_ptr<EltGeo> elt) {
     if (!elt->EstValide()) return nullptr;
-    elt->ReferenceFils();
-    EltGeo* ajoute = AjouteDebut(std::move(elt));
-    Annulations.push_back({EnregAnnul::Ajoute, nullptr, ajoute});
+    EltGeo* ajoute = elt.get();
+    Histoire.Fait(std::make_unique<PasAjout>(std::move(elt)));
     return ajoute;
 }
 
@@ -64,15 +64,29 @@ EltGeo* BDDGeo::Ajoute(const EltGeo& prototype) {
     return Ajoute(prototype.Clone());
 }
 
+void BDDGeo::AjouteFils(EltGeo& parent, const EltGeo& prototype) {
+    if (!prototype.EstValide()) return;
+    auto ajout = std::make_unique<PasAjout>(prototype.Clone());
+    auto lien = std::make_unique<PasLien>(parent, *ajout->Element());
+    auto ensemble = std::make_unique<PasEnsemble>();
+    ensemble->Ajoute(std::move(ajout));
+    ensemble->Ajoute(std::move(lien));
+    Histoire.Fait(std::move(ensemble));
+}
+
+void BDDGeo::AjouteParent(const EltGeo& prototype, const std::vector<EltGeo*>& fils) {
+    if (!prototype.EstValide()) return;
+    auto parent = prototype.Clone();
+    for (EltGeo* elt : fils)
+        parent->Fils.Ajoute(elt);
+    Histoire.Fait(std::make_unique<PasAjout>(std::move(parent)));
+}
+
 namespace {
 
-/// Gives cible the content of source, and children that are counted.
-void Reprend(EltGeo& cible, const EltGeo& source) {
-    cible.VideFils();
-    cible.Copie(source);
-    // Some solids leave out of their copy what their dialogs change all the same.
-    if (const Elt3d* solide = source.GetElt3d()) cible.ChangeElt3d(*solide);
-    cible.ReferenceFils();
+/// Whether an element may become what source is.
+bool Accepte(const EltGeo& cible, const EltGeo& source) {
+    return source.EstFini() && (source.EstValide() || !cible.EstValide());
 }
 
 /// All that elt holds as children, directly or not, each once and itself left out.
@@ -95,23 +109,45 @@ std::vector<EltGeo*> Tenus(const EltGeo& elt) {
 }  // namespace
 
 bool BDDGeo::Change(EltGeo& cible, const EltGeo& source) {
-    if (!source.EstFini() || (cible.EstValide() && !source.EstValide())) return false;
     auto avant = cible.Clone();
-    Reprend(cible, source);
-    Memorise(cible, std::move(avant));
+    if (!ChangeSansRetour(cible, source)) return false;
+    Histoire.Note(std::make_unique<PasChange>(cible, std::move(avant)));
+    return true;
+}
+
+bool BDDGeo::ChangeSansRetour(EltGeo& cible, const EltGeo& source) {
+    if (!Accepte(cible, source)) return false;
+    Remplace(cible, source);
+    Modifie = true;
     return true;
 }
 
 bool BDDGeo::ChangeEnsemble(EltGeo& cible, const EltGeo& source, const PointVek& v) {
     const std::vector<EltGeo*> tenus = Tenus(cible);
-    if (!Change(cible, source)) return false;
-    int nombre = 1;
+    auto ensemble = std::make_unique<PasEnsemble>();
+    const auto change = [&](EltGeo& elt, const EltGeo& nouveau) {
+        auto avant = elt.Clone();
+        if (!ChangeSansRetour(elt, nouveau)) return false;
+        ensemble->Ajoute(std::make_unique<PasChange>(elt, std::move(avant)));
+        return true;
+    };
+    if (!change(cible, source)) return false;
     for (EltGeo* elt : tenus) {
         const auto deplace = elt->Clone();
         deplace->Deplace(v);
-        if (Change(*elt, *deplace)) ++nombre;
+        change(*elt, *deplace);
     }
-    if (nombre > 1) Annulations.push_back({EnregAnnul::Ensemble, nullptr, nullptr, nombre});
+    Histoire.Note(std::move(ensemble));
+    return true;
+}
+
+bool BDDGeo::DemandeProprietes(EltGeo& elt) {
+    auto avant = elt.Clone();
+    const bool change = elt.Proprietes();
+    // The dialog ran a loop of its own, and the element may have gone.
+    if (!change || !Elements.Contient(&elt)) return false;
+    Histoire.Note(std::make_unique<PasChange>(elt, std::move(avant)));
+    NoteChangement();
     return true;
 }
 
@@ -120,53 +156,52 @@ void BDDGeo::NoteChangement() {
     Modifie = true;
 }
 
-void BDDGeo::Memorise(EltGeo& cible, std::unique_ptr<EltGeo> avant) {
-    Annulations.push_back({EnregAnnul::Change, std::move(avant), &cible});
-    NoteChangement();
-}
-
 bool BDDGeo::Annule() {
-    if (Annulations.empty()) return false;
-    EnregAnnul pas = std::move(Annulations.back());
-    Annulations.pop_back();
-    switch (pas.Quoi) {
-        case EnregAnnul::Retire:
-            // At the tail, not at its old place: that is meant.
-            AjouteFin(std::move(pas.Element))->ReferenceFils();
-            break;
-        case EnregAnnul::Ajoute:
-            Retire(pas.Cible);
-            break;
-        case EnregAnnul::Change:
-            if (!Elements.Contient(pas.Cible)) break;
-            Reprend(*pas.Cible, *pas.Element);
-            Table.Perime();
-            break;
-        case EnregAnnul::Coupe:
-            AnnuleCoupe(pas.Nombre);
-            break;
-        case EnregAnnul::Colle:
-            AnnuleColle(pas.Nombre);
-            break;
-        case EnregAnnul::Ensemble:
-            for (; pas.Nombre > 0; --pas.Nombre)
-                Annule();
-            break;
-    }
-    return true;
+    return Histoire.Annule();
 }
 
-std::unique_ptr<EltGeo> BDDGeo::Retire(EltGeo* elt) {
-    if (!Elements.Retire(elt)) return nullptr;
+void BDDGeo::Remplace(EltGeo& cible, const EltGeo& source) {
+    cible.VideFils();
+    cible.Copie(source);
+    // Some solids leave out of their copy what their dialogs change all the same.
+    if (const Elt3d* solide = source.GetElt3d()) cible.ChangeElt3d(*solide);
+    cible.ReferenceFils();
     Table.Perime();
-    if (DernierTrouve == elt) DernierTrouve = nullptr;
-    Retrait.emit(elt);
-    if (elt->NbParents > 0)
-        for (EltGeo* parent : Elements)
-            while (parent->Fils.Contient(elt))
-                parent->RetireFils(elt);
-    elt->VideFils();
+}
+
+std::unique_ptr<EltGeo> BDDGeo::Detache(EltGeo* elt, bool garde) {
+    if (!Elements.Retire(elt)) return nullptr;
+    Delie(*elt, garde);
     return std::unique_ptr<EltGeo>(elt);
+}
+
+std::vector<std::unique_ptr<EltGeo>> BDDGeo::Detache(const std::vector<EltGeo*>& elements,
+                                                     bool garde) {
+    std::unordered_map<const EltGeo*, std::size_t> rangs;
+    for (std::size_t rang = 0; rang < elements.size(); ++rang)
+        rangs.emplace(elements[rang], rang);
+    std::vector<std::unique_ptr<EltGeo>> detaches(elements.size());
+    Elements.RetireSi([&](const EltGeo& elt) { return rangs.count(&elt) > 0; },
+                      [&](EltGeo* elt) { detaches[rangs[elt]].reset(elt); });
+    for (const auto& elt : detaches)
+        if (elt) Delie(*elt, garde);
+    return detaches;
+}
+
+void BDDGeo::Delie(EltGeo& elt, bool garde) {
+    Table.Perime();
+    if (DernierTrouve == &elt) DernierTrouve = nullptr;
+    Retrait.emit(&elt);
+    if (elt.NbParents > 0)
+        for (EltGeo* parent : Elements)
+            while (parent->Fils.Contient(&elt))
+                parent->RetireFils(&elt);
+    if (!garde) {
+        elt.VideFils();
+        return;
+    }
+    for (EltGeo* fils : elt.Fils)
+        --fils->NbParents;
 }
 
 template <class Admet>
@@ -233,7 +268,7 @@ EltGeo* BDDGeo::Cherche3D(const PointVek& p) const {
 bool BDDGeo::Efface(const PointVek& p) {
     EltGeo* elt = Cherche(p);
     if (!elt || elt->NbParents != 0) return false;
-    Annulations.push_back({EnregAnnul::Retire, Retire(elt), nullptr});
+    Histoire.Fait(std::make_unique<PasRetrait>(*elt));
     Modifie = true;
     return true;
 }

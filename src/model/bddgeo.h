@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "model/annulation.h"
 #include "model/bddgeobase.h"
 #include "model/bddgeoclipboard.h"
 #include "model/tablerecherche.h"
@@ -12,20 +13,11 @@
 class EltBDD;
 class EltRectangle;
 
-/// One step that can be undone.
-struct EnregAnnul {
-    enum Genre { Retire = 1, Ajoute = 2, Change = 3, Coupe = 6, Colle = 7, Ensemble = 8 };
-
-    Genre Quoi;
-    std::unique_ptr<EltGeo> Element;  ///< What was removed, or the element as it was before.
-    EltGeo* Cible = nullptr;          ///< The element in the list that was added or changed.
-    int Nombre = 0;  ///< For what takes several records: how many before it belong to it.
-};
-
 /// The drawing: elements with undo, the searches at a point, and the file.
 ///
-/// Distances and positions are drawing units. Every change of an element's geometry goes through
-/// here, since the searches work on a table of it.
+/// Distances and positions are drawing units. Every change of an element or of its children goes
+/// through here: what can be undone is a step of the history, and the searches work on a table of the
+/// geometry.
 class BDDGeo : public BDDGeoBase {
   public:
     EltGeo* AjouteDebut(std::unique_ptr<EltGeo> elt) override;
@@ -44,19 +36,26 @@ class BDDGeo : public BDDGeoBase {
     /// The same with a copy of a prototype.
     EltGeo* Ajoute(const EltGeo& prototype);
 
+    /// The same, the copy becoming a child of parent, an element of the list. One step to undo.
+    void AjouteFils(EltGeo& parent, const EltGeo& prototype);
+
+    /// The same, the copy taking elements of the list as its children, in that order.
+    void AjouteParent(const EltGeo& prototype, const std::vector<EltGeo*>& fils);
+
     /// Gives cible, an element of the list, the content of source, with an undo record. False, with
     /// nothing done, when source is not finite or less valid than cible was.
     bool Change(EltGeo& cible, const EltGeo& source);
+
+    /// The same without one.
+    bool ChangeSansRetour(EltGeo& cible, const EltGeo& source);
 
     /// The same with a source that was moved as a whole by v: all that cible holds, directly or
     /// not, moves along, once. One step to undo.
     bool ChangeEnsemble(EltGeo& cible, const EltGeo& source, const PointVek& v);
 
-    /// Tells that an element was changed in place.
-    void NoteChangement();
-
-    /// The same with an undo record, avant being a clone made before the change.
-    void Memorise(EltGeo& cible, std::unique_ptr<EltGeo> avant);
+    /// Asks the user for the properties of an element of the list, with an undo record. False when
+    /// he gives up, or when the element has left the drawing meanwhile.
+    bool DemandeProprietes(EltGeo& elt);
 
     /// Undoes the newest step; false when there is none. `Modifie` stays as it is.
     bool Annule();
@@ -80,7 +79,7 @@ class BDDGeo : public BDDGeoBase {
     bool Efface(const PointVek& p);
 
     /// Asks the user for the element's properties. The drawing counts as modified whatever he
-    /// answers, and what he changes cannot be undone: that is meant.
+    /// answers, and what he changes cannot be undone, as users of the popup know it.
     bool ProprieteProche(const PointVek& p);
     bool Avant(const PointVek& p);
     bool Arriere(const PointVek& p);
@@ -96,12 +95,13 @@ class BDDGeo : public BDDGeoBase {
     /// Adds clones of what is to be pasted, brought to p, on that layer.
     void Coller(const BDDGeoClipboard& collage, const PointVek& p, int calque);
 
-    /// Adds what is to be pasted as a group at p, without undo: that is meant.
+    /// Adds what is to be pasted as a group at p, without undo: the group stands for good, since
+    /// images refer to it by name alone.
     void CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
                         const Glib::ustring& identificateur);
 
     /// Gives the style to all visible elements in the rectangle, without undo and without marking
-    /// the drawing as modified: that is meant.
+    /// the drawing as modified: to users a style is a setting of the view.
     void ChangeTraitZone(const EltRectangle& zone, const Trait& trait);
 
     /// Replaces the drawing by a file's. What cannot be read leaves an empty or partly read drawing
@@ -114,6 +114,20 @@ class BDDGeo : public BDDGeoBase {
     /// holds one lets go of it.
     sigc::signal<void, EltGeo*>& SignalRetrait() { return Retrait; }
 
+    // What the steps of the history are made of: nothing is remembered.
+
+    /// Takes an element out of the list and out of every child list; the caller owns it then. It
+    /// lets go of its own children, which it keeps in its list where garde is true. Null when the
+    /// list has no such element.
+    std::unique_ptr<EltGeo> Detache(EltGeo* elt, bool garde);
+
+    /// The same for many in one walk: each at its rank in the argument.
+    std::vector<std::unique_ptr<EltGeo>> Detache(const std::vector<EltGeo*>& elements, bool garde);
+
+    /// Gives cible, an element of the list, the content of source.
+    void Remplace(EltGeo& cible, const EltGeo& source);
+
+    Historique Histoire{*this};
     BDDGeoClipboard PressePapier;  ///< What is offered to the system clipboard.
     TransformeColle Transforme;    ///< What every paste undergoes.
 
@@ -124,16 +138,14 @@ class BDDGeo : public BDDGeoBase {
     template <class Admet>
     EltGeo* ChercheSelon(const PointVek& p, bool support, const Admet& admet, double& distance);
 
-    /// Takes the element out of the list and out of every child list; the caller owns it then.
-    std::unique_ptr<EltGeo> Retire(EltGeo* elt);
+    void NoteChangement();
 
-    void AnnuleCoupe(int nombre);
-    void AnnuleColle(int nombre);
+    /// Unlinks the element, which has left the list, from its parents and children.
+    void Delie(EltGeo& elt, bool garde);
 
     /// Unlinks the element at p, for a change of its place in the stack.
     std::unique_ptr<EltGeo> Decroche(const PointVek& p);
 
-    std::vector<EnregAnnul> Annulations;  ///< The newest last.
     EltGeo* DernierTrouve = nullptr;
     mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;

@@ -33,7 +33,7 @@ class Echelle : public EltGeo {
     void ZoomMoinsEn(const PointVek& p);
 
     /// Shows the rectangle a b: its larger side takes the width of the area (pixels), whose height
-    /// plays no part: that is meant. A null rectangle only recentres.
+    /// plays no part: the zoom that users are used to. A null rectangle only recentres.
     void ZoomRectangle(const PointVek& a, const PointVek& b, int largeur);
 
     // Pans by ten pixels.

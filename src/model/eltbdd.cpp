@@ -60,7 +60,7 @@ void EltBDD::CopieListe(const BDDGeoBase& source) {
 }
 
 void EltBDD::Dessine(Trace& trace) const {
-    // Only the images of groups are printed: that is meant.
+    // Only the images of groups are printed: to users the group itself is the mould of its images.
     if (trace.SurPapier()) return;
     trace.Compose(trace.ZonePeinte(), [this](Trace& t) {
         EltGeo::Dessine(t);

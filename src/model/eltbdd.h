@@ -8,7 +8,8 @@ class EltBDD : public EltGeo {
   public:
     EltBDD();
 
-    /// The content comes out in reverse order: that is meant, and a second copy restores it.
+    /// The content comes out in reverse order, as that of the clipboard does: a group made from the
+    /// clipboard so stands in the order of the drawing. A second copy restores it.
     EltBDD(const EltBDD& source);
 
     std::unique_ptr<EltGeo> Clone() const override;

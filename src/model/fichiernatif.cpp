@@ -70,7 +70,7 @@ void BDDGeoBase::Charge(Lecteur& entree) {
     int nombre = 0;
     entree >> nombre;
     // A code that can't be read keeps its former value, so that a text cut off behind a record
-    // gives one more element of that record's type: that is meant.
+    // gives one more element of that record's type: what damaged files have always given.
     int code = -1;
     LiensFils liens;
     for (int i = 0; i < nombre && entree.PeutLire(); ++i) {

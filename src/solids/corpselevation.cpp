@@ -55,7 +55,7 @@ std::vector<CoinCouvercle> CorpsElevation::CoinsPlats(double z, double normale) 
 }
 
 // This cap leaves the arcs and the last vertex out, and each corner bears the coordinates of the
-// one before it, with the plus signs: that is meant.
+// one before it, with the plus signs: textures of existing drawings are set to that look.
 std::vector<CoinCouvercle> CorpsElevation::CoinsLisses(double z, double normale) const {
     const Cadre cadre(Profil);
     const double cote = Gauche ? -1.0 : 1.0;

@@ -81,7 +81,7 @@ void EltImage3d::DessineGroupe3D(DC3D& dc, bool couleur) const {
     if (groupe) groupe->Dessine3DContenu(dc, couleur);
 }
 
-// It does not turn with the image: that is meant.
+// It does not turn with the image: to users the level cage marks the place alone.
 void EltImage3d::DessineFilaire(DC3D&) const {
     const RepereLocal repere(Position, Elt3d());
     DessineCage(20.0, 20.0, 0.0, 20.0);

@@ -22,7 +22,8 @@ class EltProfilSurface : public EltProfilVertex {
     void SetNbY(int nombre);
 
     /// Lays the points out again, flat, from `Position` on. The last ones fall one step short of
-    /// the lengths: that is meant. No points for a number that no drawing can hold.
+    /// the lengths, as in the grids that files hold. No points for a number that no drawing can
+    /// hold.
     void Grille(double longueurX, double longueurY);
 
     int nbX = 4;

@@ -15,6 +15,6 @@ class EltProfilVertex : public EltProfilElevation {
     virtual void DessineVertex() const = 0;
 
     /// The vertices in order, as that primitive. The normal of each is the way to it from the one
-    /// before, taken by the next: that is meant.
+    /// before, taken by the next: no surface has it, but it gives the shading users know.
     void DessineSuite(unsigned primitive) const;
 };

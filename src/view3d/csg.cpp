@@ -81,7 +81,7 @@ ZonePixels ZoneSolide(DC3D& dc, const EltGeo& solide) {
 }
 
 /// Draws the envelopes; from the first hole or groove on only their depth, and that there was one
-/// is the answer. An envelope before it is painted as it stands: that is meant.
+/// is the answer. An envelope before it is painted as it stands: users choose that by the order.
 bool DessineEnveloppes(DC3D& dc, const EltGeo& solide) {
     bool creuse = false;
     for (const EltGeo* fils : solide.Fils) {

@@ -15,7 +15,8 @@ Dessin3D::Dessin3D(BDDGeo& bdd) : Bdd(bdd) {
     add_events(Gdk::POINTER_MOTION_MASK | Gdk::BUTTON_PRESS_MASK | Gdk::SCROLL_MASK |
                Gdk::KEY_PRESS_MASK);
     Bdd.SignalRetrait().connect(sigc::mem_fun(*this, &Dessin3D::LaisseElement));
-    ConstruitPopups();
+    PopupElement.Construit("Element3D", CommandesElement(), *this);
+    PopupOutil.Construit("Outil3D", CommandesOutil(), *this);
     Dc.PrepareFormat(*this);
 }
 

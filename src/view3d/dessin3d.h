@@ -1,13 +1,12 @@
 #pragma once
 
-#include <gtkmm/actiongroup.h>
 #include <gtkmm/drawingarea.h>
-#include <gtkmm/menu.h>
-#include <gtkmm/uimanager.h>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
+#include "dialogs/commande.h"
 #include "view3d/dc3d.h"
 #include "view3d/eltsphereaccroche.h"
 
@@ -28,6 +27,10 @@ class Dessin3D : public Gtk::DrawingArea {
 
     /// Tells that an edit has changed the drawing.
     sigc::signal<void>& SignalEdition() { return Edition; }
+
+    /// The menu of an element, and that of the view.
+    static const std::vector<Commande<Dessin3D>>& CommandesElement();
+    static const std::vector<Commande<Dessin3D>>& CommandesOutil();
 
   protected:
     void on_realize() override;
@@ -112,9 +115,6 @@ class Dessin3D : public Gtk::DrawingArea {
 
     // Edits.
 
-    void ConstruitPopups();
-    void ConstruitPopupElement();
-    void ConstruitPopupOutil();
     void Entre(Edit edit);
     void Prop();
     void MetAxe(double alpha, double beta, double gamma);
@@ -165,10 +165,6 @@ class Dessin3D : public Gtk::DrawingArea {
     PointVek DebutDeforme;          ///< That vertex.
     sigc::signal<void> Edition;
 
-    Glib::RefPtr<Gtk::UIManager> UiElement;
-    Glib::RefPtr<Gtk::ActionGroup> ActionsElement;
-    Gtk::Menu* PopupElement = nullptr;  ///< The user interface manager's, as the next.
-    Glib::RefPtr<Gtk::UIManager> UiOutil;
-    Glib::RefPtr<Gtk::ActionGroup> ActionsOutil;
-    Gtk::Menu* PopupOutil = nullptr;
+    MenuContextuel PopupElement;
+    MenuContextuel PopupOutil;
 };

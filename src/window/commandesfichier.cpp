@@ -5,6 +5,7 @@
 #include <glibmm/main.h>
 #include <gtkmm/main.h>
 #include <gtkmm/messagedialog.h>
+#include <gtkmm/recentaction.h>
 #include <gtkmm/recentmanager.h>
 #include <gtkmm/stock.h>
 
@@ -97,7 +98,9 @@ void DessinWindow::Open() {
 }
 
 void DessinWindow::RecentFiles() {
-    const Glib::ustring uri = ActionRecents->get_current_uri();
+    const auto recents =
+        Glib::RefPtr<Gtk::RecentAction>::cast_dynamic(Actions->get_action("RecentFiles"));
+    const Glib::ustring uri = recents->get_current_uri();
     const std::string nom = FichierRecent(uri);
     if (nom.empty()) {
         OublieRecent(uri);

@@ -23,7 +23,7 @@ constexpr unsigned AttenteImpression = 5000;
 
 void DessinWindow::PageSetup() {
     MiseEnPageDialog dialogue("Mise en Page", MiseEnPage,
-                              sigc::mem_fun(Zone, &ZoneDessin::Redessine));
+                              sigc::mem_fun(Zone.Vue, &VueZone::Redessine));
     for (int reponse = Gtk::RESPONSE_APPLY; reponse == Gtk::RESPONSE_APPLY;)
         reponse = dialogue.run();
 }
@@ -31,7 +31,7 @@ void DessinWindow::PageSetup() {
 void DessinWindow::Preview() {
     PrendPapier(*MiseEnPage.operator->());
     FeuilleCourante.ApercuPage = !FeuilleCourante.ApercuPage;
-    Zone.Redessine();
+    Zone.Vue.Redessine();
 }
 
 Glib::RefPtr<PrintFormOperation> DessinWindow::PrepareImpression(const Glib::ustring& travail) {
@@ -54,7 +54,7 @@ void DessinWindow::Imprime(Gtk::PrintOperationAction action) {
     Gtk::PrintOperation& faite = *operation.operator->();
     operation->signal_done().connect([this, &faite, annonce](Gtk::PrintOperationResult resultat) {
         // The dialog may have changed the sheet that is shown.
-        Zone.Redessine();
+        Zone.Vue.Redessine();
         const bool perdue = faite.get_status() == Gtk::PRINT_STATUS_FINISHED_ABORTED;
         if (resultat == Gtk::PRINT_OPERATION_RESULT_APPLY && !perdue)
             ReglagesImpression = faite.get_print_settings();

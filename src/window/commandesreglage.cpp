@@ -14,10 +14,10 @@
 #include "window/dessinwindow.h"
 
 void DessinWindow::CalqueCourant() {
-    int calque = Zone.Calque();
+    int calque = Zone.Outils.Protos.Calque();
     IntDialog dialogue("Numéro du calque courant", &calque);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    Zone.SetCalque(calque);
+    Zone.Outils.Protos.SetCalque(calque);
     AfficheCalques();
 }
 
@@ -25,24 +25,24 @@ void DessinWindow::CalquesAfficher() {
     int calque = BddCourante.CalqueAffiche();
     IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    Zone.SetCalqueAffiche(calque);
+    Zone.Outils.SetCalqueAffiche(calque);
     AfficheCalques();
 }
 
 void DessinWindow::GrillePas() {
-    double pas = Zone.PasGrille();
+    double pas = Zone.Vue.GrilleCourante.Pas;
     ReelDialog dialogue("Entrer le pas de la grille", &pas);
-    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.SetPasGrille(pas);
+    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.Vue.SetPasGrille(pas);
 }
 
 void DessinWindow::GrilleCouleur() {
-    Gdk::Color couleur = Zone.GrilleDuMoment().Style.Couleur;
-    if (DemandeCouleur(this, "Couleur de la Grille", couleur)) Zone.SetCouleurGrille(couleur);
+    Gdk::Color couleur = Zone.Vue.GrilleCourante.Style.Couleur;
+    if (DemandeCouleur(this, "Couleur de la Grille", couleur)) Zone.Vue.SetCouleurGrille(couleur);
 }
 
 void DessinWindow::CollerRotation() {
     TransformeColle& t = BddCourante.Transforme;
-    // The angle comes back through single precision: that is meant.
+    // The angle comes back through single precision: the dialog shows round degrees.
     double degres = static_cast<float>(t.Angle) * 180.0f / 3.1415927f;
     const double avant = degres;
     ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &degres);
@@ -52,32 +52,32 @@ void DessinWindow::CollerRotation() {
         t.Cos = std::cos(t.Angle);
         t.Sin = std::sin(t.Angle);
     }
-    Zone.CollerAction();
+    Zone.Presse.Colle();
 }
 
 void DessinWindow::CollerK() {
     double facteur = BddCourante.Transforme.Agrandissement;
-    // The title is that of the rotation: that is meant.
+    // The title is that of the rotation, by which users know this dialog too.
     ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     if (facteur > 0.001 && facteur < 1000.0) BddCourante.Transforme.Agrandissement = facteur;
-    Zone.CollerAction();
+    Zone.Presse.Colle();
 }
 
 void DessinWindow::PrefTxt() {
-    EltTxtDialog("Préférences Texte", &Zone.Protos.Txt).run();
+    EltTxtDialog("Préférences Texte", &Zone.Outils.Protos.Txt).run();
 }
 
 void DessinWindow::PrefCote() {
-    PrefCoteDialog dialogue(&Zone.Protos.Cote);
+    PrefCoteDialog dialogue(&Zone.Outils.Protos.Cote);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    Zone.Protos.DiffuseCote();
+    Zone.Outils.Protos.DiffuseCote();
     // Values are shown with the new decimals, in a drag's preview as well.
-    Zone.DessinChange();
+    Zone.Outils.DessinChange();
 }
 
 void DessinWindow::SurfacePref() {
-    EltProfilSurface& surface = Zone.Protos.ProfilSurface;
+    EltProfilSurface& surface = Zone.Outils.Protos.ProfilSurface;
     int lignes = surface.nbX, colonnes = surface.nbY;
     Int2Dialog dialogue("Nombre de lignes / Nombre de Colonnes", &lignes, &colonnes);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
@@ -86,17 +86,17 @@ void DessinWindow::SurfacePref() {
 }
 
 void DessinWindow::CouleurFond() {
-    Gdk::Color couleur = Zone.Fond();
-    if (DemandeCouleur(this, "Couleur du fond d'écran", couleur)) Zone.SetFond(couleur);
+    Gdk::Color couleur = Zone.Vue.Fond();
+    if (DemandeCouleur(this, "Couleur du fond d'écran", couleur)) Zone.Vue.SetFond(couleur);
 }
 
 void DessinWindow::Couleur() {
-    ::Trait trait = Zone.Trait();
-    if (DemandeCouleur(this, "Couleur", trait.Couleur)) Zone.SetTrait(trait);
+    ::Trait trait = Zone.Outils.Protos.Trait();
+    if (DemandeCouleur(this, "Couleur", trait.Couleur)) Zone.Outils.Protos.SetTrait(trait);
 }
 
 void DessinWindow::Trait() {
-    ::Trait trait = Zone.Trait();
+    ::Trait trait = Zone.Outils.Protos.Trait();
     TraitDialog dialogue("Style du trait courant", &trait);
-    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.SetTrait(trait);
+    if (dialogue.run() == Gtk::RESPONSE_OK) Zone.Outils.Protos.SetTrait(trait);
 }

@@ -7,9 +7,11 @@
 
 #include <algorithm>
 
+#include "dialogs/nombres.h"
 #include "exchange/printformoperation.h"
 #include "model/bddgeo.h"
 #include "window/donnees.h"
+#include "zone/ligneetat.h"
 
 namespace {
 
@@ -37,7 +39,8 @@ DessinWindow::DessinWindow()
     maximize();
     add(BoiteVerticale);
     BoiteVerticale.pack_start(BoiteMenu, Gtk::PACK_SHRINK);
-    Zone.MetLabels(&LabelX, &LabelY, &LabelAction);
+    Zone.Souris.SignalPosition().connect(sigc::mem_fun(*this, &DessinWindow::AffichePosition));
+    Zone.Outils.SignalEtat().connect(sigc::mem_fun(*this, &DessinWindow::AfficheInvite));
     RangeEtat();
     BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
     AfficheCalques();
@@ -45,18 +48,23 @@ DessinWindow::DessinWindow()
     Zone.set_size_request(-1, -1);
     modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));
 
-    Fenetre3D.SignalEdition().connect(sigc::mem_fun(Zone, &ZoneDessin::DessinChange));
+    Fenetre3D.SignalEdition().connect(sigc::mem_fun(Zone.Outils, &Machine::DessinChange));
 
     Gtk::IconTheme::get_default()->append_search_path(
         Glib::build_filename(DossierDonnees(), "icons"));
-    ConstruitActions();
     ConstruitMenus();
     show_all_children(true);
 }
 
-DessinWindow::~DessinWindow() {
-    // The labels go before the area.
-    Zone.MetLabels(nullptr, nullptr, nullptr);
+DessinWindow::~DessinWindow() = default;
+
+void DessinWindow::AffichePosition(const PointVek& p) {
+    LabelX.set_text(TexteNombre(p.x));
+    LabelY.set_text(TexteNombre(p.y));
+}
+
+void DessinWindow::AfficheInvite(const LigneEtat& ligne) {
+    LabelAction.set_text(ligne.Invite);
 }
 
 void DessinWindow::RangeEtat() {
@@ -98,7 +106,7 @@ void DessinWindow::AjusteMarges(int largeur) {
 }
 
 void DessinWindow::AfficheCalques() {
-    LabelTravail.set_text("Travail sur " + Glib::Ascii::dtostr(Zone.Calque()));
+    LabelTravail.set_text("Travail sur " + Glib::Ascii::dtostr(Zone.Outils.Protos.Calque()));
     LabelAffiche.set_text("Affiché " + Glib::Ascii::dtostr(BddCourante.CalqueAffiche()));
 }
 

@@ -5,14 +5,12 @@
 #include <gtkmm/label.h>
 #include <gtkmm/pagesetup.h>
 #include <gtkmm/printoperation.h>
-#include <gtkmm/recentaction.h>
 #include <gtkmm/uimanager.h>
 #include <gtkmm/window.h>
 
 #include <string>
 
 #include "view3d/window3d.h"
-#include "window/actions.h"
 #include "zone/zonedessin.h"
 
 class PrintFormOperation;
@@ -36,7 +34,7 @@ class DessinWindow : public Gtk::Window {
     /// Asks whether to save a modified drawing, and saves. False: the window stays.
     bool ConfirmeFermeture();
 
-    // The commands of the table of actions that are neither tools nor the area's.
+    // The commands of the table that are neither tools nor the area's.
 
     void New();
     void Open();
@@ -46,7 +44,8 @@ class DessinWindow : public Gtk::Window {
     void Dxf();
     void Ve9();
 
-    /// Asks nothing about a modified drawing, unlike the other imports: that is meant.
+    /// Asks nothing about a modified drawing, unlike the other imports: users of old drawings open
+    /// one after the other.
     void Vek();
     void PageSetup();
     void Preview();
@@ -73,6 +72,8 @@ class DessinWindow : public Gtk::Window {
     void APropos();
     void Aide();
 
+    ZoneDessin Zone;
+
   protected:
     bool on_delete_event(GdkEventAny* evenement) override;
     bool on_configure_event(GdkEventConfigure* evenement) override;
@@ -82,6 +83,8 @@ class DessinWindow : public Gtk::Window {
 
   private:
     void RangeEtat();
+    void AffichePosition(const PointVek& p);
+    void AfficheInvite(const LigneEtat& ligne);
 
     /// Margin in pixels of a label of the status row where there is room.
     int MargeVoulue(const Gtk::Widget* libelle) const;
@@ -99,13 +102,9 @@ class DessinWindow : public Gtk::Window {
     /// Says that the printing failed, unless annonce tells that the user knows already.
     void AnnonceEchec(bool& annonce);
 
-    void ConstruitActions();
-    void AjouteAction(const LigneAction& ligne);
-    void AjouteRecents(const LigneAction& ligne);
-    Gtk::Action::SlotActivate Execution(const Effet& effet);
     void ConstruitMenus();
+    void AjouteComplements();
 
-    ZoneDessin Zone;
     Window3D Fenetre3D;
     Gtk::VBox BoiteVerticale;
     Gtk::VBox BoiteMenu;
@@ -122,5 +121,4 @@ class DessinWindow : public Gtk::Window {
     Glib::RefPtr<Gtk::PrintSettings> ReglagesImpression;  ///< Those of the last printing.
     Glib::RefPtr<PrintFormOperation> Impression;          ///< The last one, maybe still going on.
     Gtk::Widget* BarreOutils = nullptr;                   ///< The user interface manager's.
-    Glib::RefPtr<Gtk::RecentAction> ActionRecents;
 };

@@ -17,7 +17,7 @@ std::optional<PointVek> Candidat(BDDGeo& bdd, const PointVek& p, const OptionsAc
         const int nombre = Intersecte(*a, *b, p1, p2);
         if (nombre == 1) return p1;
         if (nombre == 2) return Distance(p, p2) > Distance(p, p1) ? p1 : p2;
-        // Without a crossing the second element plays no part: that is meant.
+        // Without a crossing the second element plays no part: users see the nearer one win.
         if (options.Extremites) return a->PointProche(p);
         return std::nullopt;
     }
@@ -30,8 +30,8 @@ std::optional<PointVek> Candidat(BDDGeo& bdd, const PointVek& p, const OptionsAc
 
 }  // namespace
 
-std::optional<PointVek> PointParticulierProche(BDDGeo& bdd, const PointVek& p,
-                                               const OptionsAccrochage& options) {
+std::optional<PointVek> ChercheAccroche(BDDGeo& bdd, const PointVek& p,
+                                        const OptionsAccrochage& options) {
     if (!options.Actif) return std::nullopt;
     const auto candidat = Candidat(bdd, p, options);
     if (!candidat || !(Distance(*candidat, p) < vue::Proche10())) return std::nullopt;

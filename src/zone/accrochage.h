@@ -16,5 +16,5 @@ struct OptionsAccrochage {
 
 /// The special point within the pick distance of p, in drawing units: a crossing before a centre or
 /// an end, and of these the nearer one.
-std::optional<PointVek> PointParticulierProche(BDDGeo& bdd, const PointVek& p,
-                                               const OptionsAccrochage& options);
+std::optional<PointVek> ChercheAccroche(BDDGeo& bdd, const PointVek& p,
+                                        const OptionsAccrochage& options);

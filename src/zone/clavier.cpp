@@ -1,16 +1,15 @@
-// Keys and the popup menu of the right button.
+// The keys of the drawing area, and the menu of its right button.
 
 #include <gdk/gdkkeysyms.h>
 #include <gtkmm/stock.h>
 
 #include "model/bddgeo.h"
 #include "model/echelle.h"
-#include "zone/tableetats.h"
 #include "zone/zonedessin.h"
 
 bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
-    Touche = evenement->keyval;
-    switch (Touche) {
+    Outils.Touche = evenement->keyval;
+    switch (Outils.Touche) {
         case GDK_Up:
             EchelleCourante.Haut();
             break;
@@ -30,14 +29,14 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
                 AnnuleAction();
                 return true;
             }
-            EchelleCourante.Origine = PointSouris;
+            EchelleCourante.Origine = Souris.Position();
             break;
         case GDK_Escape:
-            RazEtat();
-            Redessine();
+            Outils.RazEtat();
+            Outils.Redessine();
             return true;
         case GDK_End:
-            FinProfil();
+            Outils.Finit();
             return true;
         case GDK_Delete:
             SupPopup();
@@ -45,59 +44,53 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
         default:
             return false;
     }
-    VueChangee();
+    Outils.VueChangee();
     return true;
 }
 
 void ZoneDessin::ToucheRelachee() {
-    // Any release counts, whichever key it is: that is meant.
-    Touche = 0;
+    // Any release counts, whichever key it is: one key is remembered, and not which are down.
+    Outils.Touche = 0;
 }
 
-void ZoneDessin::ConstruitPopup() {
-    // Four equal accelerators, of which the first wins: that is meant.
-    const Gtk::AccelKey touche("S");
-    ActionsPopup = Gtk::ActionGroup::create();
-    ActionsPopup->add(Gtk::Action::create("Sup", "Sup", "Supprimer"), touche,
-                      sigc::mem_fun(*this, &ZoneDessin::SupPopup));
-    ActionsPopup->add(Gtk::Action::create("Prop", Gtk::Stock::PROPERTIES), touche,
-                      sigc::mem_fun(*this, &ZoneDessin::PropPopup));
-    ActionsPopup->add(Gtk::Action::create("Avant", "Avant", "Avant"), touche,
-                      sigc::mem_fun(*this, &ZoneDessin::AvantPopup));
-    ActionsPopup->add(Gtk::Action::create("Arriere", "Arriere", "Arrière"), touche,
-                      sigc::mem_fun(*this, &ZoneDessin::ArrierePopup));
-    GestionnairePopup = Gtk::UIManager::create();
-    GestionnairePopup->insert_action_group(ActionsPopup);
-    GestionnairePopup->add_ui_from_string(
-        "<ui>"
-        "  <popup name='PopupMenu'>"
-        "    <menuitem action='Sup'/>"
-        "    <menuitem action='Prop'/>"
-        "    <menuitem action='Avant'/>"
-        "    <menuitem action='Arriere'/>"
-        "  </popup>"
-        "</ui>");
-    MenuPopup = dynamic_cast<Gtk::Menu*>(GestionnairePopup->get_widget("/PopupMenu"));
+const std::vector<Commande<ZoneDessin>>& ZoneDessin::CommandesPopup() {
+    using Ligne = Commande<ZoneDessin>;
+    // Four equal accelerators, of which the first wins: only the open menu would read them.
+    static const std::vector<Ligne> table = {
+        Ligne(Ligne::Simple, "Sup", "Sup", &ZoneDessin::SupPopup)
+            .AvecBulle("Supprimer")
+            .AvecTouche("S"),
+        Ligne(Ligne::Stock, "Prop", "", &ZoneDessin::PropPopup)
+            .AvecImage(Gtk::Stock::PROPERTIES.id)
+            .AvecTouche("S"),
+        Ligne(Ligne::Simple, "Avant", "Avant", &ZoneDessin::AvantPopup)
+            .AvecBulle("Avant")
+            .AvecTouche("S"),
+        Ligne(Ligne::Simple, "Arriere", "Arriere", &ZoneDessin::ArrierePopup)
+            .AvecBulle("Arrière")
+            .AvecTouche("S"),
+    };
+    return table;
 }
 
 void ZoneDessin::SupPopup() {
-    BddCourante.Efface(PointSouris);
-    DessinChange();
+    BddCourante.Efface(Souris.Position());
+    Outils.DessinChange();
 }
 
 void ZoneDessin::PropPopup() {
-    BddCourante.ProprieteProche(PointSouris);
-    LaisseDeplacement();
+    BddCourante.ProprieteProche(Souris.Position());
+    Outils.DessinRepris();
     // The layer typed may be a hidden one.
-    SetCalqueAffiche(BddCourante.CalqueAffiche());
+    Outils.SetCalqueAffiche(BddCourante.CalqueAffiche());
 }
 
 void ZoneDessin::AvantPopup() {
-    BddCourante.Avant(PointSouris);
-    DessinChange();
+    BddCourante.Avant(Souris.Position());
+    Outils.DessinChange();
 }
 
 void ZoneDessin::ArrierePopup() {
-    BddCourante.Arriere(PointSouris);
-    DessinChange();
+    BddCourante.Arriere(Souris.Position());
+    Outils.DessinChange();
 }

@@ -1,91 +1,141 @@
-// The engine of the tool machine: entering and leaving states, clicks, previews.
+#include "zone/machine.h"
 
+#include "dialogs/reeldialog.h"
 #include "model/bddgeo.h"
-#include "zone/etats.h"
+#include "zone/pointeur.h"
 #include "zone/tableetats.h"
-#include "zone/zonedessin.h"
+#include "zone/vuezone.h"
 
-void ZoneDessin::Entre(int etat) {
+Machine::Machine(VueZone& vue, Pointeur& pointeur) : Vue(vue), Souris(pointeur) {
+    BddCourante.SignalRetrait().connect(sigc::mem_fun(*this, &Machine::LaisseElement));
+}
+
+const LigneEtat& Machine::Ligne() const {
+    return LigneDe(Etat);
+}
+
+void Machine::Entre(int etat) {
     const LigneEtat& ligne = LigneDe(etat);
     if (ligne.Entree && !ligne.Entree(*this)) return;
     MetEtat(etat);
 }
 
-void ZoneDessin::RazEtat() {
+void Machine::RazEtat() {
     MetEtat(ETAT_REPOS);
 }
 
-void ZoneDessin::MetEtat(int etat) {
+void Machine::MetEtat(int etat) {
     Etat = etat;
-    const LigneEtat& ligne = LigneDe(etat);
-    if (ligne.Premier == etat) EltCourant = EltCopie = nullptr;
-    // Within a ring the last preview stays until the pointer moves.
-    if (ligne.Premier == etat || !ligne.Apercu) Dessus.Montre(Surimpression::Apercu, {});
+    const LigneEtat& ligne = Ligne();
+    if (ligne.Premier == etat) EltCourant = EltSecond = nullptr;
+    // Within a ring the last band stays until the pointer moves.
+    if (ligne.Premier == etat || !ligne.BandeVers) Vue.Dessus.Montre(Bandes::Outil, {});
     MontrePoignees();
-    AfficheEtat();
+    Etats.emit(ligne);
 }
 
-void ZoneDessin::AfficheEtat() {
-    const LigneEtat& ligne = LigneDe(Etat);
-    if (LabelAction) LabelAction->set_text(ligne.Invite);
-    if (const auto fenetre = get_window()) fenetre->set_cursor(Gdk::Cursor(ligne.Curseur));
-}
-
-void ZoneDessin::Clique(const PointVek& p) {
-    const LigneEtat& ligne = LigneDe(Etat);
+void Machine::Clique(const PointVek& p) {
+    const LigneEtat& ligne = Ligne();
     if (!ligne.Clic || !ligne.Clic(*this, p)) {
-        AfficheEtat();
+        Etats.emit(Ligne());
         return;
     }
     MetEtat(ligne.Suivant);
-    // What an open ring has placed so far is only in its preview.
-    if (LigneDe(Etat).Fin) MontreApercu();
+    // What an open ring has placed so far is only in its band.
+    if (Ligne().Fin) MontreBande();
 }
 
-void ZoneDessin::FinProfil() {
-    const LigneEtat& ligne = LigneDe(Etat);
+void Machine::Finit() {
+    const LigneEtat& ligne = Ligne();
     if (!ligne.Fin) return;
     ligne.Fin(*this);
     MetEtat(ligne.SuivantFin);
     Redessine();
 }
 
-void ZoneDessin::MontreApercu() {
-    const LigneEtat& ligne = LigneDe(Etat);
-    if (ligne.Apercu) Dessus.Montre(Surimpression::Apercu, ligne.Apercu(*this, PointSouris));
+void Machine::MontreBande() {
+    const LigneEtat& ligne = Ligne();
+    if (ligne.BandeVers)
+        Vue.Dessus.Montre(Bandes::Outil, ligne.BandeVers(*this, Souris.Position()));
 }
 
-void ZoneDessin::MontrePoignees() {
-    if (!LigneDe(Etat).MontrePoignees || !EltCourant) {
-        Dessus.Montre(Surimpression::Poignees, {});
+void Machine::MontrePoignees() {
+    if (!Ligne().MontrePoignees || !EltCourant) {
+        Vue.Dessus.Montre(Bandes::Poignees, {});
         return;
     }
     const std::shared_ptr<EltGeo> copie = EltCourant->Clone();
-    Dessus.Montre(Surimpression::Poignees,
-                  [copie](Trace& trace) { copie->DessinePoignees(trace); });
+    Vue.Dessus.Montre(Bandes::Poignees, [copie](Trace& trace) { copie->DessinePoignees(trace); });
 }
 
-void ZoneDessin::LaisseElement(EltGeo* elt) {
-    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltCopie);
-    if (tenu) MetEtat(LigneDe(Etat).Premier);
+void Machine::MontreBandes() {
+    MontrePoignees();
+    MontreBande();
+    Souris.MajRepere();
 }
 
-void ZoneDessin::LaisseDeplacement() {
-    if (Etat == ETAT_MODIFIE_POSITION) MetEtat(LigneDe(Etat).Premier);
+void Machine::LaisseElement(EltGeo* elt) {
+    const bool tenu = EltCourant && (!elt || elt == EltCourant || elt == EltSecond);
+    if (tenu) MetEtat(Ligne().Premier);
 }
 
-void ZoneDessin::Ajoute(const EltGeo& prototype) {
+void Machine::DessinChange() {
+    Redessine();
+    MontrePoignees();
+    Souris.MajRepere();
+}
+
+void Machine::DessinRepris() {
+    if (Etat == ETAT_MODIFIE_POSITION) MetEtat(Ligne().Premier);
+    DessinChange();
+}
+
+void Machine::Recommence() {
+    RazEtat();
+    Souris.CacheRepere();
+    Redessine();
+}
+
+void Machine::VueChangee() {
+    Redessine();
+    Souris.SuitVue();
+    if (Vue.Dessus.Visible(Bandes::Outil)) MontreBande();
+}
+
+void Machine::SetCalqueAffiche(int calque) {
+    BddCourante.SetCalqueAffiche(calque);
+    for (EltGeo* elt : {EltCourant, EltSecond})
+        if (elt && !BddCourante.EstVisible(*elt)) LaisseElement(elt);
+    Souris.CacheRepere();
+    DessinChange();
+}
+
+void Machine::EntreCollage(std::shared_ptr<BDDGeoClipboard> collage, int etat) {
+    Collage = std::move(collage);
+    MetEtat(etat);
+}
+
+void Machine::Redessine() {
+    Vue.Redessine();
+}
+
+void Machine::Ajoute(const EltGeo& prototype) {
     BddCourante.Ajoute(prototype);
     Redessine();
 }
 
-bool ZoneDessin::Prend(EltGeo* trouve) {
+bool Machine::Prend(EltGeo* trouve) {
     EltCourant = trouve;
     return trouve;
 }
 
-bool ZoneDessin::PrendSecond(EltGeo* trouve) {
+bool Machine::PrendSecond(EltGeo* trouve) {
     if (!trouve || trouve == EltCourant) return false;
-    EltCopie = trouve;
+    EltSecond = trouve;
     return true;
+}
+
+bool Machine::DemandeRayon() {
+    ReelDialog dialogue("Rayon ?", &Rayon);
+    return dialogue.run() == Gtk::RESPONSE_OK;
 }

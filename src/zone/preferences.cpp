@@ -1,4 +1,4 @@
-// What the area keeps from one run to the next.
+#include "zone/preferences.h"
 
 #include <glib.h>
 #include <glibmm/miscutils.h>
@@ -44,45 +44,53 @@ void LitCouleurFond(Lecteur& entree, Gdk::Color& couleur) {
 
 }  // namespace
 
-void ZoneDessin::ChargePreferences() {
+void ChargePreferences(ZoneDessin& zone) {
     std::string texte;
     if (!LitFichier(FichierPreferences(), texte)) return;
+    Prototypes& protos = zone.Outils.Protos;
+    OptionsAccrochage& options = zone.Souris.Options;
     Lecteur entree(texte);
-    int decimales = NbDecimales;
-    double rayon = Rayon;
-    entree >> decimales >> rayon >> Options.Actif;
+    int decimales = NbDecimales, calque = protos.Calque();
+    double rayon = zone.Outils.Rayon;
+    entree >> decimales >> rayon >> options.Actif;
     if (EstNombreDecimales(decimales)) NbDecimales = decimales;
-    if (rayon > 0.0) Rayon = rayon;
-    Lit(entree, Protos.Txt);
-    Lit(entree, Protos.Cote);
-    Lit(entree, GrilleCourante);
+    if (rayon > 0.0) zone.Outils.Rayon = rayon;
+    Lit(entree, protos.Txt);
+    Lit(entree, protos.Cote);
+    Lit(entree, zone.Vue.GrilleCourante);
     Lit(entree, EchelleCourante);
-    LitCouleurFond(entree, CouleurFond);
-    entree >> TraitCourant;
-    if (TraitCourant.Epaisseur < 1) TraitCourant.Epaisseur = 1;
-    entree >> Options.Intersections >> Options.Supports >> Options.Extremites >> CalqueCourant;
-    Protos.DiffuseTrait(TraitCourant);
-    Protos.DiffuseCote();
-    Protos.SetCalque(CalqueCourant);
+    Gdk::Color fond = zone.Vue.Fond();
+    LitCouleurFond(entree, fond);
+    zone.Vue.SetFond(fond);
+    Trait trait = protos.Trait();
+    entree >> trait;
+    if (trait.Epaisseur < 1) trait.Epaisseur = 1;
+    entree >> options.Intersections >> options.Supports >> options.Extremites >> calque;
+    protos.SetTrait(trait);
+    protos.DiffuseCote();
+    protos.SetCalque(calque);
 }
 
-void ZoneDessin::SauvePreferences() const {
+void SauvePreferences(const ZoneDessin& zone) {
+    const Prototypes& protos = zone.Outils.Protos;
+    const OptionsAccrochage& options = zone.Souris.Options;
+    const Gdk::Color& fond = zone.Vue.Fond();
     Ecrivain sortie;
-    sortie << NbDecimales << '\n' << Rayon << '\n' << Options.Actif << '\n';
-    Protos.Txt.Sauve(sortie);
+    sortie << NbDecimales << '\n' << zone.Outils.Rayon << '\n' << options.Actif << '\n';
+    protos.Txt.Sauve(sortie);
     sortie << '\n';
-    Protos.Cote.Sauve(sortie);
+    protos.Cote.Sauve(sortie);
     sortie << '\n';
-    GrilleCourante.Sauve(sortie);
+    zone.Vue.GrilleCourante.Sauve(sortie);
     sortie << '\n';
     EchelleCourante.Sauve(sortie);
     sortie << '\n'
-           << int{CouleurFond.get_red()} << ' ' << int{CouleurFond.get_green()} << ' '
-           << int{CouleurFond.get_blue()} << '\n'
-           << TraitCourant << '\n'
-           << Options.Intersections << '\n'
-           << Options.Supports << '\n'
-           << Options.Extremites << '\n'
-           << CalqueCourant << '\n';
+           << int{fond.get_red()} << ' ' << int{fond.get_green()} << ' ' << int{fond.get_blue()}
+           << '\n'
+           << protos.Trait() << '\n'
+           << options.Intersections << '\n'
+           << options.Supports << '\n'
+           << options.Extremites << '\n'
+           << protos.Calque() << '\n';
     EcritFichier(FichierPreferences(), sortie.Texte());
 }

@@ -23,11 +23,13 @@ void Prototypes::Chacun(const Action& action) {
         action(*elt);
 }
 
-void Prototypes::DiffuseTrait(const Trait& trait) {
+void Prototypes::SetTrait(const ::Trait& trait) {
+    TraitCourant = trait;
     Chacun([&trait](EltGeo& elt) { elt.ChangeTrait(trait); });
 }
 
 void Prototypes::SetCalque(int calque) {
+    CalqueCourant = calque;
     Chacun([calque](EltGeo& elt) { elt.Calque = calque; });
 }
 

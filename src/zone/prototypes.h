@@ -30,8 +30,8 @@
 #include "solids/eltrainurep.h"
 #include "solids/eltsphere.h"
 
-/// One scratch element of each class: a tool fills it click after click, previews it, and a copy of
-/// it goes into the drawing. Each keeps the style and layer given last.
+/// One scratch element of each class: a tool fills it click after click, shows it in a band, and a
+/// copy of it goes into the drawing. All have the style and the layer in force.
 struct Prototypes {
     EltPoint Point;
     EltDroite Droite;
@@ -64,8 +64,11 @@ struct Prototypes {
     EltProfilTubeRond ProfilTubeRond;
     EltProfilBoaRond ProfilBoaRond;
 
-    void DiffuseTrait(const Trait& trait);
+    /// The style of the next elements, and their layer.
+    void SetTrait(const ::Trait& trait);
+    const ::Trait& Trait() const { return TraitCourant; }
     void SetCalque(int calque);
+    int Calque() const { return CalqueCourant; }
 
     /// Gives the other dimensions the size and font of `Cote`.
     void DiffuseCote();
@@ -73,4 +76,7 @@ struct Prototypes {
   private:
     template <class Action>
     void Chacun(const Action& action);
+
+    ::Trait TraitCourant;
+    int CalqueCourant = 0;
 };

@@ -1,30 +1,14 @@
-// The pointer: motion, clicks, wheel, snap marker.
+// The mouse in the drawing area.
 
 #include <gdk/gdkkeysyms.h>
 
 #include <cmath>
 
-#include "dialogs/nombres.h"
-#include "elements/angles.h"
-#include "elements/trace.h"
-#include "elements/vue.h"
-#include "model/bddgeo.h"
 #include "model/echelle.h"
-#include "zone/tableetats.h"
+#include "zone/ligneetat.h"
 #include "zone/zonedessin.h"
 
 namespace {
-
-constexpr double RayonRepere = 4.0;  ///< Pixels, at every zoom.
-
-Bande BandeRepere(const PointVek& p) {
-    return [p](Trace& trace) {
-        Trait rouge;
-        rouge.Couleur = Gdk::Color("red");
-        trace.AppliqueTrait(rouge, Trace::Ligne);
-        trace.Arc({vue::VersEcran(p), RayonRepere, 0.0, DeuxPi}, true);
-    };
-}
 
 PointVek PixelEntier(double x, double y) {
     return {std::round(x), std::round(y)};
@@ -32,36 +16,11 @@ PointVek PixelEntier(double x, double y) {
 
 }  // namespace
 
-void ZoneDessin::SuitPointeur(const PointVek& pixel) {
-    PixelSouris = pixel;
-    PointSouris = EchelleCourante.VersDessin(pixel);
-    if (LabelX) LabelX->set_text(TexteNombre(PointSouris.x));
-    if (LabelY) LabelY->set_text(TexteNombre(PointSouris.y));
-}
-
 bool ZoneDessin::on_motion_notify_event(GdkEventMotion* evenement) {
-    SuitPointeur(PixelEntier(evenement->x, evenement->y));
-    MajRepere();
-    MontreApercu();
+    Souris.Suit(PixelEntier(evenement->x, evenement->y));
+    Souris.MajRepere();
+    Outils.MontreBande();
     return true;
-}
-
-void ZoneDessin::MajRepere() {
-    if (!Options.Actif) return;
-    Repere = PointParticulierProche(BddCourante, PointSouris, Options);
-    Dessus.Montre(Surimpression::Repere, Repere ? BandeRepere(*Repere) : Bande());
-}
-
-void ZoneDessin::CacheRepere() {
-    Repere.reset();
-    Dessus.Montre(Surimpression::Repere, {});
-}
-
-PointVek ZoneDessin::PositionClic(const PointVek& pixel) const {
-    if (Repere && !LigneDe(Etat).IgnoreRepere) return *Repere;
-    PointVek p = EchelleCourante.VersDessin(pixel);
-    GrilleCourante.Aligne(p);
-    return p;
 }
 
 bool ZoneDessin::on_button_press_event(GdkEventButton* evenement) {
@@ -69,40 +28,40 @@ bool ZoneDessin::on_button_press_event(GdkEventButton* evenement) {
     if (evenement->type != GDK_BUTTON_PRESS) return false;
     const PointVek pixel(evenement->x, evenement->y);
     if (evenement->button == 1) {
-        SuitPointeur(pixel);
-        MajRepere();
-        Clique(PositionClic(pixel));
+        Souris.Suit(pixel);
+        Souris.MajRepere();
+        Outils.Clique(Souris.PositionClic(pixel, !Outils.Ligne().IgnoreRepere));
         return true;
     }
     if (evenement->button == 3) {
-        SuitPointeur(pixel);
-        if (MenuPopup) MenuPopup->popup(evenement->button, evenement->time);
+        Souris.Suit(pixel);
+        Popup.Ouvre(evenement->button, evenement->time);
         return true;
     }
     return false;
 }
 
 bool ZoneDessin::on_scroll_event(GdkEventScroll* evenement) {
-    SuitPointeur(PixelEntier(evenement->x, evenement->y));
+    Souris.Suit(PixelEntier(evenement->x, evenement->y));
     // Only the left keys count.
-    const bool controle = Touche == GDK_Control_L, majuscule = Touche == GDK_Shift_L;
+    const bool controle = Outils.Touche == GDK_Control_L, majuscule = Outils.Touche == GDK_Shift_L;
     if (evenement->direction == GDK_SCROLL_UP) {
         if (controle)
             EchelleCourante.Haut();
         else if (majuscule)
             EchelleCourante.Droite();
         else
-            EchelleCourante.ZoomPlusEn(PointSouris);
+            EchelleCourante.ZoomPlusEn(Souris.Position());
     } else if (evenement->direction == GDK_SCROLL_DOWN) {
         if (controle)
             EchelleCourante.Bas();
         else if (majuscule)
             EchelleCourante.Gauche();
         else
-            EchelleCourante.ZoomMoinsEn(PointSouris);
+            EchelleCourante.ZoomMoinsEn(Souris.Position());
     } else {
         return false;
     }
-    VueChangee();
+    Outils.VueChangee();
     return true;
 }

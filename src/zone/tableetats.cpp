@@ -26,10 +26,6 @@ namespace {
     throw std::logic_error(std::string("tool states: ") + raison + " " + std::to_string(numero));
 }
 
-void ExigeEtat(int etat) {
-    if (etat < 0 || etat >= NOMBRE_ETATS) Refuse("no such state", etat);
-}
-
 class TableEtats {
   public:
     TableEtats() : Rangs(NOMBRE_ETATS, nullptr) {
@@ -42,21 +38,29 @@ class TableEtats {
         for (const LigneEtat& ligne : Lignes)
             Range(ligne);
         for (int etat = 0; etat < NOMBRE_ETATS; ++etat)
-            if (!Rangs[etat]) Refuse("no row for", etat);
+            (*this)[etat];
+        for (const LigneEtat& ligne : Lignes)
+            for (const int etat : {ligne.Premier, ligne.Suivant, ligne.SuivantFin})
+                (*this)[etat];
     }
 
-    const LigneEtat& operator[](int etat) const { return *Rangs.at(etat); }
+    const LigneEtat& operator[](int etat) const {
+        const bool connu = etat >= 0 && etat < static_cast<int>(Rangs.size()) && Rangs[etat];
+        if (!connu) Refuse("no row for", etat);
+        return *Rangs[etat];
+    }
 
   private:
     void Range(const LigneEtat& ligne) {
-        for (const int etat : {ligne.Numero, ligne.Premier, ligne.Suivant, ligne.SuivantFin})
-            ExigeEtat(etat);
-        if (Rangs[ligne.Numero]) Refuse("two rows for", ligne.Numero);
-        Rangs[ligne.Numero] = &ligne;
+        if (ligne.Numero < 0) Refuse("no such state", ligne.Numero);
+        const auto numero = static_cast<std::size_t>(ligne.Numero);
+        if (numero >= Rangs.size()) Rangs.resize(numero + 1, nullptr);
+        if (Rangs[numero]) Refuse("two rows for", ligne.Numero);
+        Rangs[numero] = &ligne;
     }
 
     std::vector<LigneEtat> Lignes;
-    std::vector<const LigneEtat*> Rangs;
+    std::vector<const LigneEtat*> Rangs;  ///< By their number; null where there is none.
 };
 
 }  // namespace

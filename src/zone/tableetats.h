@@ -2,6 +2,6 @@
 
 #include "zone/ligneetat.h"
 
-/// The row of a state, 0 to `NOMBRE_ETATS` - 1. The table is made and checked at the first call:
-/// every number stands in it once, and every state that a row leads to exists.
+/// The row of a state. The table is made and checked at the first call: every number stands in it
+/// once, all from 0 to `NOMBRE_ETATS` - 1 are there, and every state that a row leads to exists.
 const LigneEtat& LigneDe(int etat);

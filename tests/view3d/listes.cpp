@@ -42,7 +42,7 @@ unsigned Centre(const Capture& image) {
 }
 
 /// The hues of five stripes side by side on the face of the box, in one row of the picture.
-std::vector<int> Bandes(const Capture& image, int y) {
+std::vector<int> BandesVues(const Capture& image, int y) {
     // The face, at z = 10, is 20 units to each side of the middle.
     const double demi = 20.0 * 300.0 / (std::tan(22.5 * std::acos(-1.0) / 180.0) * 290.0);
     std::vector<int> teintes;
@@ -102,14 +102,14 @@ TEST(Textures, RangeesDroites) {
     BddCourante.Ajoute(pave);
     banc.Bouge(5.0, 5.0);
     const Capture vue = banc.Image();
-    const std::vector<int> bandes = Bandes(vue, 280);
+    const std::vector<int> bandes = BandesVues(vue, 280);
     EXPECT_EQ(std::set<int>(bandes.begin(), bandes.end()), (std::set<int>{1, 2, 3, 4, 6}));
     for (const int y : {255, 320, 345})
-        EXPECT_EQ(Bandes(vue, y), bandes) << y;
+        EXPECT_EQ(BandesVues(vue, y), bandes) << y;
     // Without textures the surface is white.
     banc.Clique(5.0, 5.0);
     banc.Choisit("Texture");
-    EXPECT_EQ(Bandes(banc.Image(), 280), std::vector<int>(5, 7));
+    EXPECT_EQ(BandesVues(banc.Image(), 280), std::vector<int>(5, 7));
 }
 
 TEST(Textures, ACoteDuDessin) {

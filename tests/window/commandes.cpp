@@ -8,15 +8,18 @@
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/table.h>
 
+#include <numeric>
 #include <set>
 
 #include "bureau.h"
+#include "commun/record.h"
 #include "elements/eltsegment.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "model/fichier.h"
-#include "window/actions.h"
 #include "window/donnees.h"
+#include "window/menus.h"
+#include "window/tablecommandes.h"
 #include "zone/etats.h"
 
 namespace {
@@ -78,39 +81,49 @@ bool FermeParLeGestionnaire(Bureau& bureau) {
 
 }  // namespace
 
-TEST(Actions, ChaqueIconeEtChaqueNomExistent) {
-    std::set<std::string> noms;
-    for (const LigneAction& ligne : TableActions()) {
-        EXPECT_TRUE(noms.insert(ligne.Nom).second) << ligne.Nom << " stands twice";
-        if (ligne.Forme != LigneAction::Icone) continue;
+TEST(Actions, SontCellesDesFichiers) {
+    static const char* const genres[] = {"simple", "icone", "stock", "bascule", "recents", "menu"};
+    std::set<std::string> lignes;
+    int nombre = 0;
+    ParcourtCommandes(TableCommandes(), [&](const Enseigne& e, const std::vector<int>&) {
+        ++nombre;
+        lignes.insert(e.Nom + " | " + genres[e.Forme] + " | " + e.Libelle + " | " + e.Bulle +
+                      " | " + e.Touche + " | " + e.Image + '\n');
+        EXPECT_NE(e.Mot(), "") << e.Nom;
+        if (e.Forme != Enseigne::Icone) return;
         const std::string image =
-            DossierDonnees() + "/icons/hicolor/scalable/actions/" + ligne.Image + ".svg";
+            DossierDonnees() + "/icons/hicolor/scalable/actions/" + e.Image + ".svg";
         EXPECT_EQ(g_access(image.c_str(), R_OK), 0) << image;
-    }
-    EXPECT_EQ(noms.size(), 119u);
+    });
+    const std::string texte = std::accumulate(lignes.begin(), lignes.end(), std::string());
+    EXPECT_EQ(texte, Contenu(KRVEK_ESSAIS "/window/data/commandes.txt"));
+    EXPECT_EQ(static_cast<std::size_t>(nombre), lignes.size()) << "one stands twice";
+    EXPECT_EQ(DefinitionMenus(), '\n' + Contenu(KRVEK_ESSAIS "/window/data/menus.ui"));
 }
 
 TEST(Actions, LesLettresNuesEtLesTouchesArriventUneFois) {
     Bureau bureau;
     EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.0");
     bureau.Choisit("Segment");
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_SEGMENT_1);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_SEGMENT_1);
     EXPECT_EQ(bureau.LibelleCommencant("Position de l'origine").get_text(),
               "Position de l'origine du segment");
+    bureau.Souris.Bouge(bureau.Zone.Vue.Largeur() / 2 + 77, bureau.Zone.Vue.Hauteur() / 2);
+    EXPECT_EQ(bureau.LibelleCommencant("77").get_text(), "77") << "the abscissa of the pointer";
     bureau.Frappe(GDK_s);
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_SUPPRIME);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_SUPPRIME);
     bureau.Frappe(GDK_o);
     EXPECT_EQ(EchelleCourante.Facteur, 2.0);
     bureau.Frappe(GDK_l);
     bureau.Frappe(GDK_Up);
     EXPECT_EQ(EchelleCourante.Origine.y, 10.0);
     bureau.Frappe(GDK_g);
-    EXPECT_TRUE(bureau.Zone.GrilleDuMoment().Affichee);
+    EXPECT_TRUE(bureau.Zone.Vue.GrilleCourante.Affichee);
     bureau.Frappe(GDK_Escape);
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     bureau.Frappe(GDK_space);
     bureau.Frappe(GDK_Return);
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.0") << "no tool button was fired";
 }
 
@@ -170,7 +183,7 @@ TEST(Fichiers, ImporterDemandeUnAutreNom) {
     RepondFichier(ancien);
     bureau.Choisit("Vek");
     EXPECT_EQ(BddCourante.Elements.Nombre(), 8);
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     RepondDialogue(Gtk::RESPONSE_CANCEL, [&ve9](Gtk::Dialog& dialogue) {
         EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
         RepondFichier(ve9);
@@ -194,7 +207,7 @@ TEST(Fichiers, DxfAllerEtRetour) {
     bureau.Choisit("ExportDxf");
     EXPECT_TRUE(BddCourante.Modifie);
     EXPECT_EQ(BddCourante.NomFichier, "");
-    EXPECT_NE(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_NE(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     // The import asks about what is not saved.
     RepondDialogue(Gtk::RESPONSE_CANCEL, [&nom](Gtk::Dialog& dialogue) {
         EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
@@ -205,7 +218,7 @@ TEST(Fichiers, DxfAllerEtRetour) {
     EXPECT_EQ(BddCourante.Elements.Nombre(), 3);
     EXPECT_EQ(BddCourante.NomFichier, nom + ".dxf");
     EXPECT_FALSE(BddCourante.Nomme);
-    EXPECT_EQ(bureau.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     EXPECT_EQ(bureau.Fenetre.get_title(), titre);
 }
 
@@ -254,18 +267,18 @@ TEST(Reglages, CalquesGrilleEtTrait) {
 
     RepondSaisie("2,5");
     bureau.Choisit("GrillePas");
-    EXPECT_EQ(bureau.Zone.PasGrille(), 2.5);
+    EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5);
     for (const char* mauvais : {"1e400", "-3", "abc"}) {
         RepondSaisie(mauvais);
         bureau.Choisit("GrillePas");
-        EXPECT_EQ(bureau.Zone.PasGrille(), 2.5) << mauvais;
+        EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5) << mauvais;
     }
 
     RepondTrait("7", Gtk::RESPONSE_OK);
     bureau.Choisit("Trait");
-    EXPECT_EQ(bureau.Zone.Trait().Epaisseur, 7);
-    EXPECT_EQ(bureau.Zone.Trait().PasHachure, 1.0) << "what was not edited stays";
+    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().Epaisseur, 7);
+    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().PasHachure, 1.0) << "what was not edited stays";
     RepondTrait("9", Gtk::RESPONSE_CANCEL);
     bureau.Choisit("Trait");
-    EXPECT_EQ(bureau.Zone.Trait().Epaisseur, 7);
+    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().Epaisseur, 7);
 }

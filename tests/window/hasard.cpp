@@ -44,8 +44,8 @@ class Utilisateur {
 
     void Agit() {
         if (Entre(0, 19) == 0) return AgitEnVue();
-        const int x = Entre(-20, Lieu.Zone.Largeur() + 20);
-        const int y = Entre(-20, Lieu.Zone.Hauteur() + 20);
+        const int x = Entre(-20, Lieu.Zone.Vue.Largeur() + 20);
+        const int y = Entre(-20, Lieu.Zone.Vue.Hauteur() + 20);
         const int choix = Entre(0, 99);
         if (choix < 40)
             Lieu.Souris.Bouge(x, y);
@@ -60,7 +60,7 @@ class Utilisateur {
         else if (choix < 88)
             ChoisitAuMenuDroit(x, y);
         else if (choix < 92)
-            Lieu.Zone.Entre(LigneDe(Entre(0, NOMBRE_ETATS - 1)).Premier);
+            Lieu.Zone.Outils.Entre(LigneDe(Entre(0, NOMBRE_ETATS - 1)).Premier);
         else
             Entrees[Rang(Entrees.size())]->activate();
         if (Entre(0, 99) == 0) OffreUnDessin();
@@ -212,14 +212,14 @@ TEST(Hasard, PlusieursMilliersDeGestes) {
         EXPECT_GT(plus, 10) << "the user drew next to nothing";
         LaisseTourner();
     }
-    bureau.Zone.RazEtat();
+    bureau.Zone.Outils.RazEtat();
     VerifieFils(BddCourante);
     vue.Fenetre.show();
     VerifieRepeint(vue);
     vue.Fenetre.hide();
     LaisseTourner();
     const Capture apres(bureau.Zone.get_window());
-    bureau.Zone.Redessine();
+    bureau.Zone.Vue.Redessine();
     LaisseTourner();
     const Capture neuve(bureau.Zone.get_window());
     EXPECT_EQ(apres.Ecart(neuve), 0);

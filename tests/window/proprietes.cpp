@@ -56,21 +56,21 @@ TEST(Proprietes, ParLeMenuDuClicDroit) {
     EXPECT_GT(banc.Image().Ecart(avant), 300);
 
     // A drag does not bring the former element back, and what a layer hides is let go.
-    banc.Zone.Entre(ETAT_MODIFIE);
+    banc.Zone.Outils.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({80.5, 0});
     banc.Souris.ClicA({80.5, 0});
-    ASSERT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE_POSITION);
+    ASSERT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE_POSITION);
     RepondDialogue(Gtk::RESPONSE_OK,
                    [](Gtk::Dialog& dialogue) { Champs(dialogue).at(3)->set_text("60"); });
     ChoisitProp(banc, 380, 200);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE);
-    banc.Zone.SetCalqueAffiche(0);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE);
+    banc.Zone.Outils.SetCalqueAffiche(0);
     banc.Souris.ClicA({60, 0});
-    ASSERT_EQ(banc.Zone.EltCourant, arc);
+    ASSERT_EQ(banc.Zone.Outils.EltCourant, arc);
     RepondDialogue(Gtk::RESPONSE_OK,
                    [](Gtk::Dialog& dialogue) { Champs(dialogue).back()->set_text("3"); });
     ChoisitProp(banc, 360, 200);
-    EXPECT_EQ(banc.Zone.EltCourant, nullptr);
+    EXPECT_EQ(banc.Zone.Outils.EltCourant, nullptr);
     BddCourante.Annule();
     EXPECT_EQ(BddCourante.Elements.Nombre(), 0) << "the addition is the only step to undo";
 }
@@ -162,7 +162,7 @@ TEST(Proprietes, UneCoteAutomatique) {
               "Propriété de la cote|X=0|Y=50|Z=0|Texte=200|Taille=10|0");
     EXPECT_EQ(static_cast<EltCote*>(elt)->Texte, "*");
     EXPECT_EQ(elt->Position.y, 50.0);
-    banc.Zone.DessinChange();
+    banc.Zone.Outils.DessinChange();
     EXPECT_GT(banc.Image().Ecart(avant), 50) << "the same value in larger figures";
 
     EltCoteAng angle;
@@ -273,7 +273,7 @@ TEST(Proprietes, RienDImpossibleNEntre) {
                 elt->Proprietes();
                 EXPECT_TRUE(elt->EstValide() && elt->Position.EstFini())
                     << saisie << " in " << rang;
-                banc.Zone.DessinChange();
+                banc.Zone.Outils.DessinChange();
                 LaisseTourner();
             }
 

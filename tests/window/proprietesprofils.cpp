@@ -114,7 +114,7 @@ TEST(ProprietesProfils, DimensionDuTableauDePoints) {
             champs[1]->set_text(colonnes);
         });
         bureau.Choisit("SurfacePref");
-        const EltProfilSurface& surface = bureau.Zone.Protos.ProfilSurface;
+        const EltProfilSurface& surface = bureau.Zone.Outils.Protos.ProfilSurface;
         return std::pair(surface.nbX, surface.nbY);
     };
     EXPECT_EQ(repond("6", "7", Gtk::RESPONSE_CANCEL), std::pair(4, 4));

@@ -22,7 +22,7 @@ void AjouteSegment(const PointVek& a, const PointVek& b) {
 }
 
 void Selectionne(Banc& banc, const PointVek& a, const PointVek& b) {
-    banc.Zone.Entre(ETAT_SELECTION_1);
+    banc.Zone.Outils.Entre(ETAT_SELECTION_1);
     banc.Souris.ClicA(a);
     banc.Souris.ClicA(b);
 }
@@ -34,8 +34,8 @@ void ExigeSegment(const EltGeo& elt, const PointVek& a, const PointVek& b) {
 }
 
 void Colle(Banc& banc) {
-    banc.Zone.CollerAction();
-    for (int tour = 0; tour < 20 && banc.Zone.EtatCourant() != ETAT_COLLER; ++tour)
+    banc.Zone.Presse.Colle();
+    for (int tour = 0; tour < 20 && banc.Zone.Outils.EtatCourant() != ETAT_COLLER; ++tour)
         LaisseTourner();
 }
 
@@ -51,13 +51,13 @@ TEST(Collage, CopierDeuxFoisPuisColler) {
     AjouteSegment({-200, 100}, {-180, 100});
     AjouteSegment({-100, 50}, {-80, 70});
     Selectionne(banc, {-210, 110}, {-170, 90});
-    banc.Zone.CopieAction();
+    banc.Zone.Presse.Copie();
     Selectionne(banc, {-110, 90}, {-70, 40});
-    banc.Zone.CopieAction();
-    banc.Zone.AnnuleSelection();
-    banc.Zone.SetCalque(3);
+    banc.Zone.Presse.Copie();
+    banc.Zone.Vue.AnnuleSelection();
+    banc.Zone.Outils.Protos.SetCalque(3);
     Colle(banc);
-    ASSERT_EQ(banc.Zone.EtatCourant(), ETAT_COLLER);
+    ASSERT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_COLLER);
     banc.Souris.BougeA({50, 0});
     const Capture bande = banc.Image();
     banc.Souris.ClicA({50, 0});
@@ -77,13 +77,13 @@ TEST(Collage, MiroirRotationEtFacteur) {
     Banc banc;
     AjouteSegment({10, 20}, {30, 20});
     Selectionne(banc, {0, 40}, {50, 0});
-    banc.Zone.CopieAction();
+    banc.Zone.Presse.Copie();
     TransformeColle& t = BddCourante.Transforme;
     t.Cos = 0.0;
     t.Sin = 1.0;
     t.Agrandissement = 2.0;
-    banc.Zone.ChangeSymetrieX();
-    for (int tour = 0; tour < 20 && banc.Zone.EtatCourant() != ETAT_COLLER; ++tour)
+    banc.Zone.Presse.ChangeSymetrieX();
+    for (int tour = 0; tour < 20 && banc.Zone.Outils.EtatCourant() != ETAT_COLLER; ++tour)
         LaisseTourner();
     banc.Souris.ClicA({100, 100});
     // Relative to the corner: (10, -20) to (30, -20); turned a quarter: (20, 10) to (20, 30);
@@ -101,7 +101,7 @@ TEST(Collage, CouperEtAnnuler) {
     BddCourante.AjouteFin(groupe.Clone());
     BddCourante.Modifie = false;
     Selectionne(banc, {-20, 50}, {90, -50});
-    banc.Zone.CoupeAction();
+    banc.Zone.Presse.Coupe();
     EXPECT_EQ(BddCourante.Elements.Nombre(), 2) << "the group and what lies outside stay";
     EXPECT_FALSE(BddCourante.Modifie);
     EXPECT_TRUE(BddCourante.Annule());
@@ -111,22 +111,22 @@ TEST(Collage, CouperEtAnnuler) {
 TEST(Collage, DonneesVidesOuEtrangeres) {
     Banc banc;
     AjouteSegment({-200, 100}, {-180, 100});
-    banc.Zone.Entre(ETAT_SEGMENT_1);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_1);
     Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)->set_text("VERSION3.3");
     Colle(banc);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_1);
-    banc.Zone.RectangleSelection.SetPoints({500, 500}, {501, 499});
-    banc.Zone.CopieAction();
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_1);
+    banc.Zone.Vue.RectangleSelection.SetPoints({500, 500}, {501, 499});
+    banc.Zone.Presse.Copie();
     Colle(banc);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_1) << "an empty selection gives nothing";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_1) << "an empty selection gives nothing";
 }
 
 TEST(Collage, ImageDeLaSelection) {
     Banc banc;
     AjouteSegment({-20, 0}, {20, 0});
     Selectionne(banc, {-50, 30}, {60, -40});
-    banc.Zone.AnnuleSelection();
-    banc.Zone.CopieBitmap();
+    banc.Zone.Vue.AnnuleSelection();
+    banc.Zone.Presse.CopieBitmap();
     const auto image = Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)->wait_for_image();
     ASSERT_TRUE(image);
     EXPECT_EQ(image->get_width(), 110);
@@ -145,7 +145,7 @@ TEST(Groupes, UneImageMontreLeGroupeTourneEtAgrandi) {
     image.Angle = Pi / 2;
     image.Agrandissement = 2.0;
     BddCourante.Ajoute(image);
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     const Capture seule = banc.Image();
     // The group at its place; its image from (50, 0) to (50, 40).
     EXPECT_EQ(seule.Pixel(300 - 200 + 20, 100), 0x000000u);
@@ -156,11 +156,11 @@ TEST(Groupes, UneImageMontreLeGroupeTourneEtAgrandi) {
     EXPECT_EQ(EchelleCourante.Agrandissement, 1.0);
 
     // Without the groups their images stay.
-    banc.Zone.ChangeAfficheBDD();
+    banc.Zone.Vue.ChangeAfficheBDD();
     const Capture sans = banc.Image();
     EXPECT_EQ(sans.Pixel(120, 100), 0xffffffu);
     EXPECT_EQ(sans.Pixel(350, 180), 0x000000u);
-    banc.Zone.ChangeAfficheBDD();
+    banc.Zone.Vue.ChangeAfficheBDD();
 
     // Saved and read back the same.
     const std::string texte = BddCourante.SauveTexte();
@@ -180,7 +180,7 @@ TEST(Groupes, UnRectangleTourneAvecSonImage) {
     image.Place({100, 0});
     image.Angle = Pi / 4;
     BddCourante.Ajoute(image);
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     const Capture tourne = banc.Image();
     // A corner stands where the half diagonal reaches, and the edge runs slanted to the next one.
     const auto noir = [&tourne](int x, int y) {
@@ -207,7 +207,7 @@ TEST(Groupes, QuiSeContiennentOuSEmboitentSansFin) {
     EltImage image;
     image.SetIdentificateur("soi");
     BddCourante.Ajoute(image);
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     banc.Image();
 
     std::string texte;
@@ -227,7 +227,7 @@ TEST(Groupes, UnDeplacementNeDoublePasLeContenu) {
     BddCourante.CollerCommeBDD(contenu, {0, 0}, "g");
     const std::string avant = BddCourante.SauveTexte();
     for (int i = 0; i < 3; ++i) {
-        banc.Zone.Entre(ETAT_MODIFIE);
+        banc.Zone.Outils.Entre(ETAT_MODIFIE);
         banc.Souris.ClicA({i * 20.0, 0});
         banc.Souris.ClicA({i * 20.0, 0});
         banc.Souris.ClicA({i * 20.0 + 20.0, 0});

@@ -51,7 +51,7 @@ const Geste Gestes[] = {
 
 /// All clicks but the last, then the pointer on it.
 void Approche(Banc& banc, const Geste& geste) {
-    banc.Zone.Entre(geste.Etat);
+    banc.Zone.Outils.Entre(geste.Etat);
     for (const PointVek& p : geste.Clics) {
         banc.Souris.BougeA(p + PointVek(13, 7));
         banc.Souris.BougeA(p);
@@ -66,7 +66,7 @@ TEST(Cotes, ChaqueOutilAjouteCeQueSaBandeMontre) {
         SCOPED_TRACE(testing::Message() << "state " << geste.Etat);
         Banc banc;
         BddCourante.Ajoute(EltArc({-100, 100}, 50, 0, DeuxPi, 0));
-        banc.Zone.Redessine();
+        banc.Zone.Vue.Redessine();
         const Capture vide = banc.Image();
         Approche(banc, geste);
         const Capture bande = banc.Image();
@@ -77,10 +77,10 @@ TEST(Cotes, ChaqueOutilAjouteCeQueSaBandeMontre) {
         EXPECT_EQ(Mesures(cote), geste.Record);
         EXPECT_GT(ajoute.Ecart(vide), 100);
         EXPECT_EQ(bande.EcartSur(vide, ajoute), 0);
-        EXPECT_EQ(banc.Zone.EtatCourant(), geste.Etat);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), geste.Etat);
 
         // Handles on one place show as one; whichever is taken, the whole moves by its text.
-        banc.Zone.Entre(ETAT_MODIFIE);
+        banc.Zone.Outils.Entre(ETAT_MODIFIE);
         banc.Souris.ClicA(cote.Position);
         const Capture poignees = banc.Image();
         for (const PointVek& p : {cote.Position, cote.Point1, cote.Point2}) {
@@ -98,7 +98,7 @@ TEST(Cotes, ChaqueOutilAjouteCeQueSaBandeMontre) {
         EXPECT_EQ(cote.Texte, texte);
         EXPECT_EQ(cote.TexteValeur(), texte);
 
-        banc.Zone.RazEtat();
+        banc.Zone.Outils.RazEtat();
         banc.Zone.AnnuleAction();
         EXPECT_EQ(banc.Image().Ecart(ajoute), 0);
         banc.Zone.AnnuleAction();
@@ -117,7 +117,7 @@ TEST(Cotes, ClicsQuiNeDonnentRien) {
                                {ETAT_COTE_ANG_1, {p, p, p, {9, 9}}, ""}}) {
         Approche(banc, geste);
         banc.Souris.ClicA(geste.Clics.back());
-        EXPECT_EQ(banc.Zone.EtatCourant(), geste.Etat);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), geste.Etat);
         EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
     }
 }

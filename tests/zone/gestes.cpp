@@ -30,7 +30,7 @@ void ExigePoint(const PointVek& p, double x, double y) {
 
 /// The picture after a repaint of everything from scratch.
 Capture Neuve(Banc& banc) {
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     return banc.Image();
 }
 
@@ -46,16 +46,16 @@ TEST(Table, CompleteEtCoherente) {
 TEST(Modifier, DeplaceUnePoigneePuisLeTout) {
     Banc banc;
     EltSegment* segment = AjouteSegment({-100, 0}, {100, 0});
-    banc.Zone.Entre(ETAT_MODIFIE);
+    banc.Zone.Outils.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({50, 3});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE_POINT);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE_POINT);
     const Capture poignees = banc.Image();
     EXPECT_EQ(poignees.Pixel(195, 195), 0x000000u) << "corner of the handle at the origin";
 
     banc.Souris.ClicA({98, 2});
     banc.Souris.BougeA({120, 80});
     banc.Souris.ClicA({150, 60});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE);
     ExigePoint(segment->Origine, -100, 0);
     ExigePoint(segment->Extremite, 150, 60);
     ExigePoint(segment->Position, 25, 30);
@@ -70,7 +70,7 @@ TEST(Modifier, DeplaceUnePoigneePuisLeTout) {
     banc.Souris.ClicA({-100, 100});
     banc.Souris.ClicA({-100, 100});
     banc.Souris.ClicA({150, 160});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE_POSITION);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE_POSITION);
     banc.Souris.Touche(GDK_Escape);
 
     banc.Zone.AnnuleAction();
@@ -83,7 +83,7 @@ TEST(Modifier, SeulLeControleGaucheCopie) {
     Banc banc;
     EltArc* cercle = AjouteCercle({0, 0}, 50);
     for (const unsigned touche : {GDK_Control_L, GDK_Control_R}) {
-        banc.Zone.Entre(ETAT_MODIFIE);
+        banc.Zone.Outils.Entre(ETAT_MODIFIE);
         banc.Souris.ClicA({0, 50});
         banc.Souris.ClicA({0, 3});
         banc.Souris.Touche(touche);
@@ -100,7 +100,7 @@ TEST(Modifier, RectangleRetourneResteOrdonne) {
     Banc banc;
     auto* rectangle =
         static_cast<EltRectangle*>(BddCourante.Ajoute(EltRectangle({-50, 40}, {50, -40}, 0)));
-    banc.Zone.Entre(ETAT_MODIFIE);
+    banc.Zone.Outils.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({-50, 0});
     banc.Souris.ClicA({50, -40});
     banc.Souris.ClicA({-100, 90});
@@ -119,10 +119,10 @@ TEST(Bandes, RienNeResteNiNeManque) {
     hachure.Couleur = Gdk::Color("blue");
     hachure.CouleurFond = Gdk::Color("yellow");
     hachure.Epaisseur = 3;
-    banc.Zone.SetTrait(hachure);
+    banc.Zone.Outils.Protos.SetTrait(hachure);
     const Capture propre = Neuve(banc);
 
-    banc.Zone.Entre(ETAT_RECTANGLE_1);
+    banc.Zone.Outils.Entre(ETAT_RECTANGLE_1);
     banc.Souris.ClicA({-100, 80});
     banc.Souris.BougeA({120, -70});
     const Capture bande = banc.Image();
@@ -132,11 +132,11 @@ TEST(Bandes, RienNeResteNiNeManque) {
     banc.Zone.queue_draw_area(150, 100, 77, 63);
     EXPECT_EQ(banc.Image().Ecart(bande), 0);
     EXPECT_EQ(Neuve(banc).Ecart(bande), 0);
-    banc.Zone.SetTrait(Trait());
+    banc.Zone.Outils.Protos.SetTrait(Trait());
     EXPECT_EQ(banc.Image().Ecart(bande), 0);
 
     // Leaving the tool takes the band away to the pixel, before any repaint.
-    banc.Zone.Entre(ETAT_ZOOM_1);
+    banc.Zone.Outils.Entre(ETAT_ZOOM_1);
     EXPECT_EQ(banc.Image().Ecart(propre), 0);
     EXPECT_EQ(Neuve(banc).Ecart(propre), 0);
 }
@@ -157,8 +157,8 @@ TEST(Bandes, MontrentLElementTelQuIlSera) {
     for (const Trait& trait : {rempli, rouge, contraste, hachure})
         for (const int outil : {ETAT_RECTANGLE_1, ETAT_CERCLE_1, ETAT_DISQUE_1}) {
             Banc banc;
-            banc.Zone.SetTrait(trait);
-            banc.Zone.Entre(outil);
+            banc.Zone.Outils.Protos.SetTrait(trait);
+            banc.Zone.Outils.Entre(outil);
             banc.Souris.ClicA({-80, 60});
             banc.Souris.BougeA({30, -40});
             banc.Souris.BougeA({50, -50});
@@ -177,18 +177,18 @@ TEST(Bandes, MontrentLElementTelQuIlSera) {
     blanc.Contour = false;
     Banc banc;
     const Capture propre = Neuve(banc);
-    banc.Zone.SetTrait(blanc);
-    banc.Zone.Entre(ETAT_RECTANGLE_1);
+    banc.Zone.Outils.Protos.SetTrait(blanc);
+    banc.Zone.Outils.Entre(ETAT_RECTANGLE_1);
     banc.Souris.ClicA({-80, 60});
     banc.Souris.BougeA({50, -50});
     EXPECT_GT(banc.Image().Ecart(propre), 100);
-    banc.Zone.RazEtat();
+    banc.Zone.Outils.RazEtat();
     EXPECT_EQ(banc.Image().Ecart(propre), 0);
 }
 
 TEST(Bandes, SuiventLaVueEtLeFond) {
     Banc banc;
-    banc.Zone.Entre(ETAT_CERCLE_1);
+    banc.Zone.Outils.Entre(ETAT_CERCLE_1);
     banc.Souris.ClicA({0, 0});
     banc.Souris.BougeA({60, 0});
     banc.Souris.Tourne(360, 200, GDK_SCROLL_UP);
@@ -199,19 +199,19 @@ TEST(Bandes, SuiventLaVueEtLeFond) {
     EXPECT_EQ(apres.Pixel(0, 200), 0x000000u);
     EXPECT_EQ(Neuve(banc).Ecart(apres), 0);
 
-    banc.Zone.SetFond(Gdk::Color("black"));
+    banc.Zone.Vue.SetFond(Gdk::Color("black"));
     const Capture noire = banc.Image();
     EXPECT_EQ(noire.Pixel(360, 200), 0xffffffu) << "a black band on black shows as white";
-    banc.Zone.RazEtat();
+    banc.Zone.Outils.RazEtat();
     EXPECT_EQ(banc.Image().Ecart(Neuve(banc)), 0);
-    banc.Zone.SetFond(Gdk::Color("white"));
+    banc.Zone.Vue.SetFond(Gdk::Color("white"));
 }
 
 TEST(Bandes, SuiventLaTailleDeLaFenetre) {
     Banc banc;
     AjouteSegment({-100, 0}, {100, 0});
-    banc.Zone.Bascule(&OptionsAccrochage::Actif);
-    banc.Zone.Entre(ETAT_SEGMENT_1);
+    banc.Zone.Souris.Bascule(&OptionsAccrochage::Actif);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_1);
     banc.Souris.ClicA({0, 50});
     banc.Souris.BougeA({97, 3});
     banc.Zone.set_size_request(600, 440);
@@ -227,15 +227,15 @@ TEST(Bandes, LaPoigneeSuitLAnnulation) {
     Banc banc;
     AjouteSegment({-100, 0}, {100, 0});
     EltSegment* second = AjouteSegment({-100, 100}, {100, 100});
-    banc.Zone.Entre(ETAT_MODIFIE);
+    banc.Zone.Outils.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({0, 97});
     banc.Souris.ClicA({0, 100});
     banc.Souris.BougeA({30, 60});
-    ASSERT_EQ(banc.Zone.EltCourant, second);
+    ASSERT_EQ(banc.Zone.Outils.EltCourant, second);
     // The element under the tool leaves the drawing: the tool starts over, nothing stays behind.
     banc.Zone.AnnuleAction();
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_MODIFIE);
-    EXPECT_EQ(banc.Zone.EltCourant, nullptr);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE);
+    EXPECT_EQ(banc.Zone.Outils.EltCourant, nullptr);
     EXPECT_EQ(banc.Image().Ecart(Neuve(banc)), 0);
     banc.Souris.ClicA({30, 60});
     EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
@@ -246,43 +246,43 @@ TEST(Echecs, UneConstructionImpossibleNAjouteRien) {
     AjouteCercle({0, 0}, 100);
     AjouteCercle({0, 0}, 60);
     const Capture propre = Neuve(banc);
-    banc.Zone.Entre(ETAT_SEGMENT_AA_1);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_AA_1);
     banc.Souris.ClicA({100, 0});
     banc.Souris.ClicA({100, 0});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_AA_2) << "the same arc again is no second arc";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_AA_2) << "the same arc again is no second arc";
     banc.Souris.ClicA({60, 0});
     banc.Souris.BougeA({0, 30});
     EXPECT_EQ(banc.Image().Ecart(propre), 0) << "no band where a click would add nothing";
     banc.Souris.ClicA({0, 30});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_AA_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_AA_1);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
 
     // Null elements are refused.
-    banc.Zone.Entre(ETAT_SEGMENT_1);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_1);
     banc.Souris.ClicA({10, 10});
     banc.Souris.ClicA({10, 10});
-    banc.Zone.Entre(ETAT_CERCLE_1);
+    banc.Zone.Outils.Entre(ETAT_CERCLE_1);
     banc.Souris.ClicA({10, 10});
     banc.Souris.ClicA({10, 10});
     EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
 
     // A dialog given up keeps the former tool.
     RepondSaisie("33", Gtk::RESPONSE_CANCEL);
-    banc.Zone.Entre(ETAT_CERCLE_RAYON);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_CERCLE_1);
-    EXPECT_EQ(banc.Zone.Rayon, 10.0);
+    banc.Zone.Outils.Entre(ETAT_CERCLE_RAYON);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_CERCLE_1);
+    EXPECT_EQ(banc.Zone.Outils.Rayon, 10.0);
 }
 
 TEST(Clics, SeulesLesPressesSimplesComptent) {
     Banc banc;
-    banc.Zone.Entre(ETAT_SEGMENT_1);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_1);
     banc.Souris.Presse(300, 200, 1, GDK_BUTTON_PRESS);
     banc.Souris.Presse(300, 200, 1, GDK_2BUTTON_PRESS);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_2);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_2);
     banc.Souris.Presse(400, 200, 2);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SEGMENT_2);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_2);
     banc.Souris.Touche(GDK_Escape);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_REPOS);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_REPOS);
     banc.Souris.Presse(300, 200);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
 }
@@ -291,9 +291,9 @@ TEST(Accrochage, LeRepereBatLaGrille) {
     Banc banc;
     AjouteSegment({-103, 0}, {103, 0});
     AjouteSegment({3, -100}, {3, 100});
-    banc.Zone.ChangeGrille();
-    banc.Zone.Bascule(&OptionsAccrochage::Actif);
-    banc.Zone.Entre(ETAT_SEGMENT_1);
+    banc.Zone.Vue.ChangeGrille();
+    banc.Zone.Souris.Bascule(&OptionsAccrochage::Actif);
+    banc.Zone.Outils.Entre(ETAT_SEGMENT_1);
     banc.Souris.BougeA({8, 4});
     const Capture repere = banc.Image();
     EXPECT_EQ(repere.Pixel(305, 202) & 0xff0000, 0xff0000u) << "the marker on the crossing is red";
@@ -310,39 +310,36 @@ TEST(Accrochage, ChoixDuPoint) {
     AjouteSegment({-100, 0}, {100, 0});
     AjouteSegment({-100, 8}, {60, 8});
     OptionsAccrochage options;
-    EXPECT_FALSE(PointParticulierProche(BddCourante, {98, 1}, options)) << "snapping is off";
+    EXPECT_FALSE(ChercheAccroche(BddCourante, {98, 1}, options)) << "snapping is off";
     options.Actif = true;
     // Parallels do not cross: the special point of the nearest one.
-    ExigePoint(*PointParticulierProche(BddCourante, {98, 1}, options), 100, 0);
-    EXPECT_FALSE(PointParticulierProche(BddCourante, {50, 1}, options)) << "too far from any end";
+    ExigePoint(*ChercheAccroche(BddCourante, {98, 1}, options), 100, 0);
+    EXPECT_FALSE(ChercheAccroche(BddCourante, {50, 1}, options)) << "too far from any end";
     options.Extremites = false;
-    EXPECT_FALSE(PointParticulierProche(BddCourante, {98, 1}, options));
+    EXPECT_FALSE(ChercheAccroche(BddCourante, {98, 1}, options));
     // Without crossings the second nearest may give the nearer end.
     options.Extremites = true;
     options.Intersections = false;
-    ExigePoint(*PointParticulierProche(BddCourante, {61, 3}, options), 60, 8);
+    ExigePoint(*ChercheAccroche(BddCourante, {61, 3}, options), 60, 8);
 
     // A circle and a line: the nearer crossing, halfway the second.
     options.Intersections = true;
     BddCourante.Vide();
     AjouteSegment({-100, 0}, {100, 0});
     AjouteCercle({0, 0}, 4);
-    ExigePoint(*PointParticulierProche(BddCourante, {-5, 1}, options), -4, 0);
-    ExigePoint(*PointParticulierProche(BddCourante, {0, 4.5}, options), 4, 0);
+    ExigePoint(*ChercheAccroche(BddCourante, {-5, 1}, options), -4, 0);
+    ExigePoint(*ChercheAccroche(BddCourante, {0, 4.5}, options), 4, 0);
 }
 
 TEST(Vue, TouchesMoletteEtZooms) {
     Banc banc;
     AjouteSegment({-100, 0}, {100, 0});
-    Gtk::Label x, y, action;
-    banc.Zone.MetLabels(&x, &y, &action);
     banc.Souris.Bouge(400.4, 150.0);
-    EXPECT_EQ(x.get_text(), "100");
-    EXPECT_EQ(y.get_text(), "50");
+    ExigePoint(banc.Zone.Souris.Position(), 100, 50);
     banc.Souris.Tourne(400, 150, GDK_SCROLL_UP);
     EXPECT_EQ(EchelleCourante.Facteur, 2.0);
     ExigePoint(EchelleCourante.Origine, 100, 50);
-    EXPECT_EQ(x.get_text(), "150") << "the coordinates follow the view under a resting pointer";
+    ExigePoint(banc.Zone.Souris.Position(), 150, 75);  // It follows the view at rest.
     banc.Souris.Touche(GDK_Up);
     banc.Souris.Touche(GDK_Right);
     ExigePoint(EchelleCourante.Origine, 105, 55);
@@ -355,13 +352,12 @@ TEST(Vue, TouchesMoletteEtZooms) {
     // Drawn in any direction, the larger side of the rectangle takes the width of the area.
     for (const PointVek& coin : {PointVek(30, 40), PointVek(-30, 40), PointVek(30, -40)}) {
         banc.Zone.ZoomInitAction();
-        banc.Zone.Entre(ETAT_ZOOM_1);
+        banc.Zone.Outils.Entre(ETAT_ZOOM_1);
         banc.Souris.ClicA({0, 0});
         banc.Souris.ClicA(coin);
         EXPECT_EQ(EchelleCourante.Facteur, 15.0);
         ExigePoint(EchelleCourante.Origine, coin.x / 2, coin.y / 2);
     }
-    banc.Zone.MetLabels(nullptr, nullptr, nullptr);
     banc.Zone.ZoomInitAction();
 }
 
@@ -372,7 +368,7 @@ TEST(Commandes, SupprimerPilerAnnuler) {
     EXPECT_EQ(BddCourante.Cherche({0, 0}), dessus) << "the newest stands at the head";
     BddCourante.Avant({0, 0});
     EXPECT_EQ(BddCourante.Cherche({0, 0}), dessous);
-    banc.Zone.Entre(ETAT_SUPPRIME);
+    banc.Zone.Outils.Entre(ETAT_SUPPRIME);
     banc.Souris.ClicA({0, 2});
     EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
     EXPECT_EQ(BddCourante.Elements.Premier(), dessus);
@@ -388,18 +384,18 @@ TEST(Selection, ResteJusquACeQuOnLAnnule) {
     Banc banc;
     EltSegment* dedans = AjouteSegment({-20, 0}, {20, 0});
     EltSegment* dehors = AjouteSegment({-20, 90}, {20, 90});
-    banc.Zone.Entre(ETAT_SELECTION_1);
+    banc.Zone.Outils.Entre(ETAT_SELECTION_1);
     banc.Souris.ClicA({50, -50});
     banc.Souris.BougeA({-30, 30});
     banc.Souris.ClicA({-50, 50});
-    EXPECT_TRUE(banc.Zone.SelectionVisible);
+    EXPECT_TRUE(banc.Zone.Vue.SelectionVisible);
     EXPECT_EQ(banc.Image().Pixel(250, 200), 0x0000ffu);
     Trait rouge;
     rouge.Couleur = Gdk::Color("red");
-    banc.Zone.SetTrait(rouge);
+    banc.Zone.Outils.Protos.SetTrait(rouge);
     banc.Zone.ZoneTrait();
     EXPECT_EQ(dedans->Style.Couleur, Gdk::Color("red"));
     EXPECT_EQ(dehors->Style.Couleur, Gdk::Color("black"));
-    banc.Zone.AnnuleSelection();
+    banc.Zone.Vue.AnnuleSelection();
     EXPECT_EQ(banc.Image().Pixel(250, 200), 0xffffffu);
 }

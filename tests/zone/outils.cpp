@@ -53,12 +53,12 @@ TEST_P(Outil, AjouteCeQueSaBandeMontre) {
     Banc banc;
     PoseDecor();
     const int avant = BddCourante.Elements.Nombre();
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     const Capture vide = banc.Image();
 
     const bool enEntrant = geste.Etat != ETAT_SEGMENT_PARA;
     if (geste.Saisie && enEntrant) RepondSaisie(geste.Saisie);
-    banc.Zone.Entre(geste.Etat);
+    banc.Zone.Outils.Entre(geste.Etat);
     for (std::size_t i = 0; i + 1 < geste.Clics.size(); ++i) {
         banc.Souris.BougeA(geste.Clics[i] + PointVek(13.0, 7.0));
         banc.Souris.BougeA(geste.Clics[i]);
@@ -85,7 +85,7 @@ TEST_P(Outil, AjouteCeQueSaBandeMontre) {
     }
 
     // One undo takes it away again, to the pixel.
-    banc.Zone.RazEtat();
+    banc.Zone.Outils.RazEtat();
     banc.Zone.AnnuleAction();
     EXPECT_EQ(BddCourante.Elements.Nombre(), avant);
     EXPECT_EQ(banc.Image().Ecart(vide), 0);

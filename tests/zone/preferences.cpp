@@ -43,16 +43,16 @@ TEST(Preferences, ReviennentAuDepartSuivant) {
         trait.Couleur = Gdk::Color("#123456");
         trait.StyleLigne = Axe;
         trait.Epaisseur = 4;
-        zone.SetTrait(trait);
-        zone.SetCalque(7);
-        zone.SetPasGrille(2.5);
-        zone.ChangeGrille();
-        zone.SetFond(Gdk::Color("#fedcba"));
-        zone.Bascule(&OptionsAccrochage::Actif);
-        zone.Bascule(&OptionsAccrochage::Supports);
-        zone.Rayon = 33.5;
-        zone.Protos.Txt.SetTexte("Défaut");
-        zone.Protos.Cote.SetTaille(6);
+        zone.Outils.Protos.SetTrait(trait);
+        zone.Outils.Protos.SetCalque(7);
+        zone.Vue.SetPasGrille(2.5);
+        zone.Vue.ChangeGrille();
+        zone.Vue.SetFond(Gdk::Color("#fedcba"));
+        zone.Souris.Bascule(&OptionsAccrochage::Actif);
+        zone.Souris.Bascule(&OptionsAccrochage::Supports);
+        zone.Outils.Rayon = 33.5;
+        zone.Outils.Protos.Txt.SetTexte("Défaut");
+        zone.Outils.Protos.Cote.SetTaille(6);
         NbDecimales = 4;
         EchelleCourante.ZoomPlusEn({12, -5});
     }
@@ -63,20 +63,20 @@ TEST(Preferences, ReviennentAuDepartSuivant) {
     EXPECT_EQ(texte.substr(0, 12), "4\n33.5\n1\n6 4");
 
     const ZoneDessin zone;
-    EXPECT_EQ(zone.Trait().Couleur, Gdk::Color("#123456"));
-    EXPECT_EQ(zone.Trait().StyleLigne, Axe);
-    EXPECT_EQ(zone.Protos.Arc.Style.Epaisseur, 4);
-    EXPECT_EQ(zone.Calque(), 7);
-    EXPECT_EQ(zone.Protos.Segment.Calque, 7);
-    EXPECT_EQ(zone.PasGrille(), 2.5);
-    EXPECT_TRUE(zone.GrilleDuMoment().Affichee);
-    EXPECT_EQ(zone.Fond(), Gdk::Color("#fedcba"));
-    EXPECT_TRUE(zone.Accrochage().Actif);
-    EXPECT_TRUE(zone.Accrochage().Intersections);
-    EXPECT_FALSE(zone.Accrochage().Supports);
-    EXPECT_EQ(zone.Rayon, 33.5);
-    EXPECT_EQ(zone.Protos.Txt.Texte, "Défaut");
-    EXPECT_EQ(zone.Protos.CoteDia.Taille, 6.0);
+    EXPECT_EQ(zone.Outils.Protos.Trait().Couleur, Gdk::Color("#123456"));
+    EXPECT_EQ(zone.Outils.Protos.Trait().StyleLigne, Axe);
+    EXPECT_EQ(zone.Outils.Protos.Arc.Style.Epaisseur, 4);
+    EXPECT_EQ(zone.Outils.Protos.Calque(), 7);
+    EXPECT_EQ(zone.Outils.Protos.Segment.Calque, 7);
+    EXPECT_EQ(zone.Vue.GrilleCourante.Pas, 2.5);
+    EXPECT_TRUE(zone.Vue.GrilleCourante.Affichee);
+    EXPECT_EQ(zone.Vue.Fond(), Gdk::Color("#fedcba"));
+    EXPECT_TRUE(zone.Souris.Options.Actif);
+    EXPECT_TRUE(zone.Souris.Options.Intersections);
+    EXPECT_FALSE(zone.Souris.Options.Supports);
+    EXPECT_EQ(zone.Outils.Rayon, 33.5);
+    EXPECT_EQ(zone.Outils.Protos.Txt.Texte, "Défaut");
+    EXPECT_EQ(zone.Outils.Protos.CoteDia.Taille, 6.0);
     EXPECT_EQ(NbDecimales, 4);
     EXPECT_EQ(EchelleCourante.Facteur, 2.0);
     EXPECT_EQ(EchelleCourante.Origine.x, 12.0);
@@ -92,12 +92,12 @@ TEST(Preferences, UnFichierCoupeNEmpecheRien) {
         ASSERT_TRUE(EcritFichier(dossier.Fichier(), entier.substr(0, octets)));
         const ZoneDessin zone;
         EXPECT_GT(EchelleCourante.Facteur, 0.0);
-        EXPECT_GT(zone.PasGrille(), 0.0);
-        EXPECT_GE(zone.Trait().Epaisseur, 1);
+        EXPECT_GT(zone.Vue.GrilleCourante.Pas, 0.0);
+        EXPECT_GE(zone.Outils.Protos.Trait().Epaisseur, 1);
         EXPECT_TRUE(EstNombreDecimales(NbDecimales));
     }
     ASSERT_TRUE(EcritFichier(dossier.Fichier(), "99\n-1\n1\n"));
     const ZoneDessin zone;
     EXPECT_TRUE(EstNombreDecimales(NbDecimales));
-    EXPECT_EQ(zone.Rayon, 10.0);
+    EXPECT_EQ(zone.Outils.Rayon, 10.0);
 }

@@ -29,7 +29,7 @@ void Clics(Banc& banc, std::initializer_list<PointVek> clics) {
 }
 
 Capture Neuve(Banc& banc) {
-    banc.Zone.Redessine();
+    banc.Zone.Vue.Redessine();
     return banc.Image();
 }
 
@@ -48,9 +48,9 @@ void PoseRainure() {
 TEST(Profil, LaChaineEstCeQuiSeraAjoute) {
     Banc banc;
     const Capture propre = Neuve(banc);
-    banc.Zone.Entre(ETAT_PROFIL_1);
+    banc.Zone.Outils.Entre(ETAT_PROFIL_1);
     Clics(banc, {{0, 0}, {-100, -50}, {100, -50}, {0, 80}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_3);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_PROFIL_3);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
     // The link in progress leads from the last vertex to the pointer.
     banc.Souris.BougeA({0, 150});
@@ -59,7 +59,7 @@ TEST(Profil, LaChaineEstCeQuiSeraAjoute) {
     const Capture bande = banc.Image();
     EXPECT_EQ(Neuve(banc).Ecart(bande), 0);
     banc.Souris.Touche(GDK_End);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_PROFIL_1);
     ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
     EXPECT_EQ(BddCourante.Elements.Premier()->Type, TypeProfil);
     EXPECT_EQ(DerniereLigne(), "-100 -50 0 100 -50 0 0 80 0 -100 -50 0 ");
@@ -71,7 +71,7 @@ TEST(Profil, LaChaineEstCeQuiSeraAjoute) {
     Trait rempli;
     rempli.Remplissage = true;
     rempli.CouleurFond = Gdk::Color("yellow");
-    banc.Zone.SetTrait(rempli);
+    banc.Zone.Outils.Protos.SetTrait(rempli);
     Clics(banc, {{10, 10}, {20, 10}, {20, 40}, {80, 40}});
     EXPECT_EQ(banc.Image().Pixel(330, 170), 0xffffffu);
     banc.Souris.Touche(GDK_End);
@@ -82,14 +82,14 @@ TEST(Profil, LaChaineEstCeQuiSeraAjoute) {
 TEST(Profil, FinSansAssezDeSommets) {
     Banc banc;
     const Capture propre = Neuve(banc);
-    banc.Zone.Entre(ETAT_PROFIL_1);
+    banc.Zone.Outils.Entre(ETAT_PROFIL_1);
     banc.Souris.Touche(GDK_End);
     Clics(banc, {{0, 0}});
     banc.Souris.Touche(GDK_End);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_2) << "End counts in the open ring only";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_PROFIL_2) << "End counts in the open ring only";
     Clics(banc, {{10, 0}});
     banc.Souris.Touche(GDK_End);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_PROFIL_1);
     Clics(banc, {{0, 0}, {10, 0}, {10, 0}});
     banc.Souris.Touche(GDK_End);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 0) << "one point is no profile";
@@ -100,7 +100,7 @@ TEST(Profil, EchapEtZoomEnCoursDeRoute) {
     Banc banc;
     BddCourante.Ajoute(EltSegment({-200, -100}, {200, 100}, 0));
     const Capture propre = Neuve(banc);
-    banc.Zone.Entre(ETAT_PROFIL_1);
+    banc.Zone.Outils.Entre(ETAT_PROFIL_1);
     Clics(banc, {{0, 0}, {-60, 30}, {40, 30}});
     banc.Souris.BougeA({40, 0});
     banc.Souris.Tourne(340, 200, GDK_SCROLL_UP);
@@ -120,7 +120,7 @@ TEST(ProfilElt, SuitLesElementsDansLesDeuxSens) {
         Banc banc;
         PoseRainure();
         const Capture elements = Neuve(banc);
-        banc.Zone.Entre(ETAT_PROFIL_ELT_1);
+        banc.Zone.Outils.Entre(ETAT_PROFIL_ELT_1);
         Clics(banc, {{0, 0}, {-50, 20}});
         if (horaire)
             Clics(banc, {{0, 20}, {70, 0}, {0, -20}, {-70, 0}});
@@ -132,7 +132,7 @@ TEST(ProfilElt, SuitLesElementsDansLesDeuxSens) {
         banc.Souris.BougeA(horaire ? PointVek(-70, 0) : PointVek(0, 20));
         EXPECT_EQ(banc.Image().Ecart(chaine), 0);
         banc.Souris.Touche(GDK_End);
-        EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_PROFIL_ELT_1);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_PROFIL_ELT_1);
         EXPECT_EQ(DerniereLigne(), horaire
                                        ? "-50 20 0 50 20 0 50 -20 0R20  -50 -20 0 -50 20 0R20  "
                                        : "-50 20 0 -50 -20 0R-20  50 -20 0 50 20 0R-20  -50 20 0 ");

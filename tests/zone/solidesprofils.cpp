@@ -52,16 +52,16 @@ TEST(SolidesProfils, DePointEnPoint) {
                                                   {ETAT_EVANTAIL_1, "26"}};
     for (const auto& [etat, type] : outils) {
         Banc banc;
-        banc.Zone.Entre(etat);
+        banc.Zone.Outils.Entre(etat);
         Clics(banc, {{10, 10}, {30, 10}, {30, 50}});
         const Capture avant = banc.Image();
         banc.Souris.BougeA({90, 90});
         EXPECT_GT(banc.Image().Ecart(avant), 40) << "the link in progress";
         Clics(banc, {{-20, 30}});
-        EXPECT_EQ(banc.Zone.EtatCourant(), etat + 2);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), etat + 2);
         EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
         banc.Souris.Touche(GDK_End);
-        EXPECT_EQ(banc.Zone.EtatCourant(), etat);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), etat);
         ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
         EXPECT_EQ(Dernier(), type + Entete + "10 10 0\n1\n3\n20 0 0 20 40 0 -30 20 0 \n" + Neuf);
         // The next one starts anew, and what is one point does not enter.
@@ -79,10 +79,10 @@ TEST(SolidesProfils, SurDesElements) {
         Banc banc;
         BddCourante.Ajoute(EltSegment({-50, 20}, {50, 20}, 0));
         BddCourante.Ajoute(EltArc({50, 0}, 20, -1.57079632679, 3.14159265359, 0));
-        banc.Zone.Entre(etat);
+        banc.Zone.Outils.Entre(etat);
         Clics(banc, {{0, 0}, {-50, 20}, {0, 20}, {150, 150}, {70, 0}});
         banc.Souris.Touche(GDK_End);
-        EXPECT_EQ(banc.Zone.EtatCourant(), etat);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), etat);
         EXPECT_EQ(Dernier(),
                   type + Entete + "0 0 0\n1\n3\n-50 20 0 50 20 0 50 -20 0R20  \n" + Neuf);
     }
@@ -92,11 +92,11 @@ TEST(SolidesProfils, UneSurfaceDansLesQuatreSens) {
     const std::pair<PointVek, PointVek> coins[] = {
         {{10, 20}, {50, 60}}, {{50, 60}, {10, 20}}, {{10, 60}, {50, 20}}, {{50, 20}, {10, 60}}};
     Banc banc;
-    banc.Zone.Protos.ProfilSurface.SetNbX(3);
-    banc.Zone.Entre(ETAT_SURFACE_1);
+    banc.Zone.Outils.Protos.ProfilSurface.SetNbX(3);
+    banc.Zone.Outils.Entre(ETAT_SURFACE_1);
     for (const auto& [premier, second] : coins) {
         Clics(banc, {premier, second});
-        EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_SURFACE_1);
+        EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SURFACE_1);
         EXPECT_EQ(Dernier(), "24" + Entete +
                                  "10 20 0\n1\n12\n0 0 0 0 10 0 0 20 0 0 30 0 "
                                  "13.3333 0 0 13.3333 10 0 13.3333 20 0 13.3333 30 0 "
@@ -108,21 +108,21 @@ TEST(SolidesProfils, UneSurfaceDansLesQuatreSens) {
 TEST(SolidesProfils, UneRainureEstFilleDuSolide) {
     Banc banc;
     EltGeo* solide = PoseProfil({-100, 0});
-    banc.Zone.Entre(ETAT_RAINURE_P_1);
+    banc.Zone.Outils.Entre(ETAT_RAINURE_P_1);
     Clics(banc, {{200, 150}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_RAINURE_P_1) << "nothing is there";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_RAINURE_P_1) << "nothing is there";
     Clics(banc, {{-40, 40}, {0, 0}, {0, 5}, {5, 0}, {10, 10}});
     banc.Souris.Touche(GDK_End);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_RAINURE_P_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_RAINURE_P_1);
     EXPECT_EQ(Dernier(), "30" + Entete + "0 0 0\n1\n3\n0 5 0 5 0 0 10 10 0 \n" + Neuf + "1\n");
     // The newest element is the first of the list.
     EXPECT_EQ(TableFils(), "1 1 0 \n-1\n");
 
     BddCourante.Ajoute(EltSegment({20, -50}, {90, -50}, 0));
-    banc.Zone.Entre(ETAT_RAINURE_P_ELT_1);
+    banc.Zone.Outils.Entre(ETAT_RAINURE_P_ELT_1);
     Clics(banc, {{-40, 40}, {0, 0}, {20, -50}, {55, -50}});
     banc.Souris.Touche(GDK_End);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_RAINURE_P_ELT_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_RAINURE_P_ELT_1);
     EXPECT_EQ(Dernier(), "30" + Entete + "0 0 0\n1\n2\n20 -50 0 90 -50 0 \n" + Neuf + "1\n");
     EXPECT_EQ(solide->Fils.Nombre(), 2);
     banc.Zone.AnnuleAction();
@@ -134,22 +134,22 @@ TEST(SolidesProfils, LeJoncEtLeBoaTiennentLeursProfils) {
     PoseProfil({-100, 0});
     PoseProfil({100, 0});
     RepondSaisie("7", Gtk::RESPONSE_CANCEL);
-    banc.Zone.Entre(ETAT_JONC_1);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_REPOS);
+    banc.Zone.Outils.Entre(ETAT_JONC_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_REPOS);
     RepondSaisie("7");
-    banc.Zone.Entre(ETAT_JONC_1);
+    banc.Zone.Outils.Entre(ETAT_JONC_1);
     Clics(banc, {{0, -80}, {0, 150}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_JONC_2) << "no profile is there";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_JONC_2) << "no profile is there";
     Clics(banc, {{-40, 40}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_JONC_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_JONC_1);
     EXPECT_EQ(Dernier(), "32" + Entete + "0 -80 0\n" + Neuf + "7\n");
     EXPECT_EQ(TableFils(), "0 1 2 \n-1\n");
 
-    banc.Zone.Entre(ETAT_BOA_1);
+    banc.Zone.Outils.Entre(ETAT_BOA_1);
     Clics(banc, {{0, -90}, {160, 0}, {0, 150}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_BOA_3);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_BOA_3);
     Clics(banc, {{-40, 40}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_BOA_1);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_BOA_1);
     EXPECT_EQ(Dernier(), "33" + Entete + "0 -90 0\n" + Neuf);
     EXPECT_EQ(TableFils(), "0 2 2 3 \n1 1 3 \n-1\n") << "path, then envelope";
     // A profile that is held cannot be taken away; undone, the boa lets go of both.
@@ -161,9 +161,9 @@ TEST(SolidesProfils, LeJoncEtLeBoaTiennentLeursProfils) {
 TEST(SolidesProfils, UneImageEnEspace) {
     Banc banc;
     RepondSaisie("vis à bois");
-    banc.Zone.Entre(ETAT_IMAGE3D);
+    banc.Zone.Outils.Entre(ETAT_IMAGE3D);
     Clics(banc, {{10, 20}, {30, 40}});
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_IMAGE3D);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_IMAGE3D);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
     EXPECT_EQ(Dernier(), "31" + Entete + "30 40 0\nvis_à_bois\n0\n1\n" + Neuf);
 }

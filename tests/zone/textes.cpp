@@ -41,7 +41,7 @@ TEST(Texte, SePlaceCommeSaBandeLeMontre) {
     Banc banc;
     const Capture vide = banc.Image();
     RepondChamps({"Pièce n°1 ø 12", "30", "14"}, Gtk::RESPONSE_OK);
-    banc.Zone.Entre(ETAT_TEXTE);
+    banc.Zone.Outils.Entre(ETAT_TEXTE);
     banc.Souris.BougeA({-40, 80});
     banc.Souris.BougeA({-60, -20});
     const Capture bande = banc.Image();
@@ -55,7 +55,7 @@ TEST(Texte, SePlaceCommeSaBandeLeMontre) {
     banc.Zone.AnnuleAction();
     banc.Souris.BougeA({50, 50});
     banc.Souris.BougeA({-100, 0});
-    banc.Zone.RazEtat();
+    banc.Zone.Outils.RazEtat();
     EXPECT_EQ(banc.Image().Ecart(vide), 0);
 }
 
@@ -70,7 +70,7 @@ TEST(Texte, SonCoinSuitLAngle) {
         txt.Taille = 15;
         txt.Angle = angle;
         BddCourante.Ajoute(txt);
-        banc.Zone.Redessine();
+        banc.Zone.Vue.Redessine();
         const Capture image = banc.Image();
         double x = 0.0, y = 0.0;
         int nombre = 0;
@@ -93,8 +93,8 @@ TEST(Texte, SonCoinSuitLAngle) {
 TEST(Texte, AnnulerNeChangeRienEtLeTextePlace) {
     Banc banc;
     RepondChamps({"Autre", "10", "99"}, Gtk::RESPONSE_CANCEL);
-    banc.Zone.Entre(ETAT_TEXTE);
-    EXPECT_EQ(banc.Zone.EtatCourant(), ETAT_TEXTE);
+    banc.Zone.Outils.Entre(ETAT_TEXTE);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_TEXTE);
     banc.Souris.ClicA({0, 0});
     EXPECT_EQ(Suite(*BddCourante.Elements.Premier()), "Texte\n0 10 0\nArial\n");
 }
@@ -130,7 +130,7 @@ TEST(Texte, EnregistrementEtEncodages) {
 
 TEST(Point, UneCroixParClic) {
     Banc banc;
-    banc.Zone.Entre(ETAT_POINT);
+    banc.Zone.Outils.Entre(ETAT_POINT);
     banc.Souris.BougeA({20, 30});
     const Capture bande = banc.Image();
     banc.Souris.ClicA({20, 30});

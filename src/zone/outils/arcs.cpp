@@ -5,92 +5,92 @@
 #include "elements/intersections.h"
 #include "model/bddgeo.h"
 #include "zone/outils/communs.h"
-#include "zone/zonedessin.h"
+#include "zone/machine.h"
 
 namespace {
 
-bool AjouteArc(ZoneDessin& zone) {
-    zone.Ajoute(zone.Protos.Arc);
+bool AjouteArc(Machine& outils) {
+    outils.Ajoute(outils.Protos.Arc);
     return true;
 }
 
-Bande BandeArc(ZoneDessin& zone) {
-    return BandeDe(zone.Protos.Arc);
+Bande BandeProto(Machine& outils) {
+    return BandeDe(outils.Protos.Arc);
 }
 
-bool CentreArc(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.SetCentreDefaut(p);
+bool CentreArc(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.SetCentreDefaut(p);
     return true;
 }
 
-Bande ApercuDebut(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.SetDebutPoint(p);
-    return BandeArc(zone);
+Bande BandeDebut(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.SetDebutPoint(p);
+    return BandeProto(outils);
 }
 
-bool DebutArc(ZoneDessin& zone, const PointVek& p) {
-    ApercuDebut(zone, p);
+bool DebutArc(Machine& outils, const PointVek& p) {
+    BandeDebut(outils, p);
     return true;
 }
 
-Bande ApercuFin(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.SetFinPoint(p);
-    return BandeArc(zone);
+Bande BandeFin(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.SetFinPoint(p);
+    return BandeProto(outils);
 }
 
-bool FinArc(ZoneDessin& zone, const PointVek& p) {
-    ApercuFin(zone, p);
-    return AjouteArc(zone);
+bool FinArc(Machine& outils, const PointVek& p) {
+    BandeFin(outils, p);
+    return AjouteArc(outils);
 }
 
-bool Premier3Points(ZoneDessin& zone, const PointVek& p) {
-    zone.PointDepart = p;
+bool Premier3Points(Machine& outils, const PointVek& p) {
+    outils.PointDepart = p;
     return true;
 }
 
-Bande Apercu2Points(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.Arc2Points(zone.PointDepart, p);
-    return BandeArc(zone);
+Bande Bande2Points(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.Arc2Points(outils.PointDepart, p);
+    return BandeProto(outils);
 }
 
-bool Deuxieme3Points(ZoneDessin& zone, const PointVek& p) {
-    zone.PointPrecedent = p;
-    Apercu2Points(zone, p);
+bool Deuxieme3Points(Machine& outils, const PointVek& p) {
+    outils.PointPrecedent = p;
+    Bande2Points(outils, p);
     return true;
 }
 
-Bande Apercu3Points(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.Arc3Points(zone.PointDepart, zone.PointPrecedent, p);
-    return BandeArc(zone);
+Bande Bande3Points(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.Arc3Points(outils.PointDepart, outils.PointPrecedent, p);
+    return BandeProto(outils);
 }
 
-bool Fin3Points(ZoneDessin& zone, const PointVek& p) {
-    Apercu3Points(zone, p);
-    return AjouteArc(zone);
+bool Fin3Points(Machine& outils, const PointVek& p) {
+    Bande3Points(outils, p);
+    return AjouteArc(outils);
 }
 
-bool PrendSecond(ZoneDessin& zone, const PointVek& p) {
-    return zone.PrendSecond(BddCourante.Cherche(p));
+bool PrendSecond(Machine& outils, const PointVek& p) {
+    return outils.PrendSecond(BddCourante.Cherche(p));
 }
 
 /// Also what is shown while a second element is sought.
-Bande ApercuTangent(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.TangentPoint(*zone.EltCourant, p);
-    return BandeArc(zone);
+Bande BandeTangent(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.TangentPoint(*outils.EltCourant, p);
+    return BandeProto(outils);
 }
 
-bool FinTangent(ZoneDessin& zone, const PointVek& p) {
-    ApercuTangent(zone, p);
-    return AjouteArc(zone);
+bool FinTangent(Machine& outils, const PointVek& p) {
+    BandeTangent(outils, p);
+    return AjouteArc(outils);
 }
 
-Bande ApercuTangent2(ZoneDessin& zone, const PointVek& p) {
-    if (!zone.Protos.Arc.Tangent2Elements(*zone.EltCourant, *zone.EltCopie, p)) return {};
-    return BandeArc(zone);
+Bande BandeTangent2(Machine& outils, const PointVek& p) {
+    if (!outils.Protos.Arc.Tangent2Elements(*outils.EltCourant, *outils.EltSecond, p)) return {};
+    return BandeProto(outils);
 }
 
-bool FinTangent2(ZoneDessin& zone, const PointVek& p) {
-    if (ApercuTangent2(zone, p)) AjouteArc(zone);
+bool FinTangent2(Machine& outils, const PointVek& p) {
+    if (BandeTangent2(outils, p)) AjouteArc(outils);
     return true;
 }
 
@@ -100,22 +100,22 @@ EltGeo* Appui(const PointVek& p) {
     return elt && (SeLitCommeSegment(*elt) || EstArc(*elt)) ? elt : nullptr;
 }
 
-bool PrendAppui(ZoneDessin& zone, const PointVek& p) {
-    return zone.Prend(Appui(p));
+bool PrendAppui(Machine& outils, const PointVek& p) {
+    return outils.Prend(Appui(p));
 }
 
-bool PrendSecondAppui(ZoneDessin& zone, const PointVek& p) {
-    return zone.PrendSecond(Appui(p));
+bool PrendSecondAppui(Machine& outils, const PointVek& p) {
+    return outils.PrendSecond(Appui(p));
 }
 
-Bande ApercuConge(ZoneDessin& zone, const PointVek& p) {
-    if (!zone.Protos.Arc.Tangent2ElementsRayon(*zone.EltCourant, *zone.EltCopie, p, zone.Rayon))
+Bande BandeConge(Machine& outils, const PointVek& p) {
+    if (!outils.Protos.Arc.Tangent2ElementsRayon(*outils.EltCourant, *outils.EltSecond, p, outils.Rayon))
         return {};
-    return BandeArc(zone);
+    return BandeProto(outils);
 }
 
-bool FinConge(ZoneDessin& zone, const PointVek& p) {
-    if (ApercuConge(zone, p)) AjouteArc(zone);
+bool FinConge(Machine& outils, const PointVek& p) {
+    if (BandeConge(outils, p)) AjouteArc(outils);
     return true;
 }
 
@@ -127,43 +127,43 @@ std::vector<LigneEtat> LignesArcs() {
             .AuClic(CentreArc, ETAT_ARC_CDF_2),
         LigneEtat(ETAT_ARC_CDF_2, ETAT_ARC_CDF_1, "Position du début de l'arc")
             .AuClic(DebutArc, ETAT_ARC_CDF_3)
-            .Montre(ApercuDebut),
+            .Montre(BandeDebut),
         LigneEtat(ETAT_ARC_CDF_3, ETAT_ARC_CDF_1, "Position de la fin de l'arc")
             .AuClic(FinArc, ETAT_ARC_CDF_1)
-            .Montre(ApercuFin),
+            .Montre(BandeFin),
 
         LigneEtat(ETAT_ARC_DFC_1, ETAT_ARC_DFC_1, "Position du début de l'arc")
             .AuClic(Premier3Points, ETAT_ARC_DFC_2),
         LigneEtat(ETAT_ARC_DFC_2, ETAT_ARC_DFC_1, "Position de la fin de l'arc")
             .AuClic(Deuxieme3Points, ETAT_ARC_DFC_3)
-            .Montre(Apercu2Points),
+            .Montre(Bande2Points),
         LigneEtat(ETAT_ARC_DFC_3, ETAT_ARC_DFC_1, "Position du centre de l'arc de cercle")
             .AuClic(Fin3Points, ETAT_ARC_DFC_1)
-            .Montre(Apercu3Points),
+            .Montre(Bande3Points),
 
         LigneEtat(ETAT_ARC_TE_1, ETAT_ARC_TE_1, "Elément auquel l'arc sera tangent")
             .AuClic(PrendElement, ETAT_ARC_TE_2),
         LigneEtat(ETAT_ARC_TE_2, ETAT_ARC_TE_1, "Position du centre de l'arc")
             .AuClic(FinTangent, ETAT_ARC_TE_1)
-            .Montre(ApercuTangent),
+            .Montre(BandeTangent),
 
         LigneEtat(ETAT_ARC_TT_1, ETAT_ARC_TT_1, "Premier élément auquel le cercle sera tangent")
             .AuClic(PrendElement, ETAT_ARC_TT_2),
         LigneEtat(ETAT_ARC_TT_2, ETAT_ARC_TT_1, "Deuxième élément auquel le cercle sera tangent")
             .AuClic(PrendSecond, ETAT_ARC_TT_3)
-            .Montre(ApercuTangent),
+            .Montre(BandeTangent),
         LigneEtat(ETAT_ARC_TT_3, ETAT_ARC_TT_1, "choisir un des cercles")
             .AuClic(FinTangent2, ETAT_ARC_TT_1)
-            .Montre(ApercuTangent2),
+            .Montre(BandeTangent2),
 
         LigneEtat(ETAT_ARC_RAYON_1, ETAT_ARC_RAYON_1, "Premier élément auquel le arc sera tangent")
-            .Demande([](ZoneDessin& zone) { return zone.DemandeRayon(); })
+            .Demande([](Machine& outils) { return outils.DemandeRayon(); })
             .AuClic(PrendAppui, ETAT_ARC_RAYON_2),
         LigneEtat(ETAT_ARC_RAYON_2, ETAT_ARC_RAYON_1, "Deuxième élément auquel le arc sera tangent")
             .AuClic(PrendSecondAppui, ETAT_ARC_RAYON_3)
-            .Montre(ApercuTangent),
+            .Montre(BandeTangent),
         LigneEtat(ETAT_ARC_RAYON_3, ETAT_ARC_RAYON_1, "Choisir un des arcs")
             .AuClic(FinConge, ETAT_ARC_RAYON_1)
-            .Montre(ApercuConge),
+            .Montre(BandeConge),
     };
 }

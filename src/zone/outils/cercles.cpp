@@ -6,15 +6,15 @@
 
 namespace {
 
-Bande ApercuCercleRayon(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Arc.SetCentreDefaut(p);
-    zone.Protos.Arc.Rayon = zone.Rayon;
-    return BandeDe(zone.Protos.Arc);
+Bande BandeCercleRayon(Machine& outils, const PointVek& p) {
+    outils.Protos.Arc.SetCentreDefaut(p);
+    outils.Protos.Arc.Rayon = outils.Rayon;
+    return BandeDe(outils.Protos.Arc);
 }
 
-bool PlaceCercleRayon(ZoneDessin& zone, const PointVek& p) {
-    ApercuCercleRayon(zone, p);
-    zone.Ajoute(zone.Protos.Arc);
+bool PlaceCercleRayon(Machine& outils, const PointVek& p) {
+    BandeCercleRayon(outils, p);
+    outils.Ajoute(outils.Protos.Arc);
     return true;
 }
 
@@ -28,17 +28,17 @@ std::vector<LigneEtat> LignesCercles() {
             .AuClic(PrendCentre<cercle>, ETAT_CERCLE_2),
         LigneEtat(ETAT_CERCLE_2, ETAT_CERCLE_1, "Cliquer sur un point du cercle")
             .AuClic(FinRond<cercle>, ETAT_CERCLE_1)
-            .Montre(ApercuRond<cercle>),
+            .Montre(BandeRond<cercle>),
 
         LigneEtat(ETAT_CERCLE_RAYON, ETAT_CERCLE_RAYON, "Centre du cercle")
-            .Demande([](ZoneDessin& zone) { return zone.DemandeRayon(); })
+            .Demande([](Machine& outils) { return outils.DemandeRayon(); })
             .AuClic(PlaceCercleRayon, ETAT_CERCLE_RAYON)
-            .Montre(ApercuCercleRayon),
+            .Montre(BandeCercleRayon),
 
         LigneEtat(ETAT_DISQUE_1, ETAT_DISQUE_1, "Position du centre du disque")
             .AuClic(PrendCentre<disque>, ETAT_DISQUE_2),
         LigneEtat(ETAT_DISQUE_2, ETAT_DISQUE_1, "Position d'un point du périmètre du disque")
             .AuClic(FinRond<disque>, ETAT_DISQUE_1)
-            .Montre(ApercuRond<disque>),
+            .Montre(BandeRond<disque>),
     };
 }

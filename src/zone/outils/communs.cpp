@@ -2,11 +2,11 @@
 
 #include "model/bddgeo.h"
 
-bool PrendElement(ZoneDessin& zone, const PointVek& p) {
-    return zone.Prend(BddCourante.Cherche(p));
+bool PrendElement(Machine& outils, const PointVek& p) {
+    return outils.Prend(BddCourante.Cherche(p));
 }
 
-void Attache(ZoneDessin& zone, const EltGeo& prototype) {
-    if (EltGeo* fils = BddCourante.Ajoute(prototype)) zone.EltCourant->AjouteFils(fils);
-    zone.Redessine();
+void Attache(Machine& outils, const EltGeo& prototype) {
+    BddCourante.AjouteFils(*outils.EltCourant, prototype);
+    outils.Redessine();
 }

@@ -6,45 +6,45 @@
 
 #include "model/bddgeo.h"
 #include "zone/outils/communs.h"
-#include "zone/zonedessin.h"
+#include "zone/machine.h"
 
 namespace {
 
-bool PrendPoignee(ZoneDessin& zone, const PointVek& p) {
-    zone.EltCourant->DebutDeforme(p);
-    zone.PointDepart = zone.EltCourant->PointProche(p);
+bool PrendPoignee(Machine& outils, const PointVek& p) {
+    outils.EltCourant->DebutDeforme(p);
+    outils.PointDepart = outils.EltCourant->PointProche(p);
     return true;
 }
 
 /// A copy brought to where a click at p would put it.
-std::unique_ptr<EltGeo> Deplace(const ZoneDessin& zone, const PointVek& p) {
-    auto deforme = zone.EltCourant->Clone();
-    deforme->Deforme(p - zone.PointDepart);
+std::unique_ptr<EltGeo> Deplace(const Machine& outils, const PointVek& p) {
+    auto deforme = outils.EltCourant->Clone();
+    deforme->Deforme(p - outils.PointDepart);
     return deforme;
 }
 
 /// What cannot be, such as a segment brought to a point, is not placed, and the drag goes on.
-bool Pose(ZoneDessin& zone, const PointVek& p) {
-    auto deforme = Deplace(zone, p);
+bool Pose(Machine& outils, const PointVek& p) {
+    auto deforme = Deplace(outils, p);
     bool pose;
     // Only the left key makes a copy.
-    if (zone.Touche == GDK_Control_L)
+    if (outils.Touche == GDK_Control_L)
         pose = BddCourante.Ajoute(std::move(deforme)) != nullptr;
     else if (PoigneeCourante == 1)
-        pose = BddCourante.ChangeEnsemble(*zone.EltCourant, *deforme, p - zone.PointDepart);
+        pose = BddCourante.ChangeEnsemble(*outils.EltCourant, *deforme, p - outils.PointDepart);
     else
-        pose = BddCourante.Change(*zone.EltCourant, *deforme);
-    zone.DessinChange();
+        pose = BddCourante.Change(*outils.EltCourant, *deforme);
+    outils.DessinChange();
     return pose;
 }
 
-Bande ApercuPose(ZoneDessin& zone, const PointVek& p) {
-    return BandeDe(*Deplace(zone, p));
+Bande BandePose(Machine& outils, const PointVek& p) {
+    return BandeDe(*Deplace(outils, p));
 }
 
-bool Supprime(ZoneDessin& zone, const PointVek& p) {
+bool Supprime(Machine& outils, const PointVek& p) {
     BddCourante.Efface(p);
-    zone.DessinChange();
+    outils.DessinChange();
     return true;
 }
 
@@ -62,7 +62,7 @@ std::vector<LigneEtat> LignesEdition() {
         LigneEtat(ETAT_MODIFIE_POSITION, ETAT_MODIFIE,
                   "Nouvelle position, appuyer sur Ctrl pour faire une copie")
             .AuClic(Pose, ETAT_MODIFIE)
-            .Montre(ApercuPose)
+            .Montre(BandePose)
             .Pointe(Gdk::HAND1)
             .AvecPoignees(),
         LigneEtat(ETAT_SUPPRIME, ETAT_SUPPRIME, "Elément à supprimer")

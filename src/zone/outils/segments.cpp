@@ -6,7 +6,7 @@
 #include "elements/intersections.h"
 #include "model/bddgeo.h"
 #include "zone/outils/communs.h"
-#include "zone/zonedessin.h"
+#include "zone/machine.h"
 
 namespace {
 
@@ -14,111 +14,111 @@ const EltSegment& CommeSegment(const EltGeo& elt) {
     return static_cast<const EltSegment&>(elt);
 }
 
-bool AjouteSegment(ZoneDessin& zone) {
-    zone.Ajoute(zone.Protos.Segment);
+bool AjouteSegment(Machine& outils) {
+    outils.Ajoute(outils.Protos.Segment);
     return true;
 }
 
-Bande BandeSegment(ZoneDessin& zone) {
-    return BandeDe(zone.Protos.Segment);
+Bande BandeProto(Machine& outils) {
+    return BandeDe(outils.Protos.Segment);
 }
 
-bool DebutDroite(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Droite.SetPoints(p, p);
+bool DebutDroite(Machine& outils, const PointVek& p) {
+    outils.Protos.Droite.SetPoints(p, p);
     return true;
 }
 
-bool FinDroite(ZoneDessin& zone, const PointVek& p) {
-    const EltDroite& proto = zone.Protos.Droite;
+bool FinDroite(Machine& outils, const PointVek& p) {
+    const EltDroite& proto = outils.Protos.Droite;
     // Built from its two points, since the line of a drawing carries that constructor's type code.
     auto droite = std::make_unique<EltDroite>(proto.Origine, p, proto.Calque);
     droite->ChangeTrait(proto.Style);
     BddCourante.Ajoute(std::move(droite));
-    zone.Redessine();
+    outils.Redessine();
     return true;
 }
 
-Bande ApercuDroite(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Droite.SetExtremite(p);
-    return BandeDe(zone.Protos.Droite);
+Bande BandeDroite(Machine& outils, const PointVek& p) {
+    outils.Protos.Droite.SetExtremite(p);
+    return BandeDe(outils.Protos.Droite);
 }
 
-bool DebutSegment(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Segment.SetPoints(p, p);
+bool DebutSegment(Machine& outils, const PointVek& p) {
+    outils.Protos.Segment.SetPoints(p, p);
     return true;
 }
 
-Bande ApercuSegment(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Segment.SetExtremite(p);
-    return BandeSegment(zone);
+Bande BandeSegment(Machine& outils, const PointVek& p) {
+    outils.Protos.Segment.SetExtremite(p);
+    return BandeProto(outils);
 }
 
-bool FinSegment(ZoneDessin& zone, const PointVek& p) {
-    ApercuSegment(zone, p);
-    return AjouteSegment(zone);
+bool FinSegment(Machine& outils, const PointVek& p) {
+    BandeSegment(outils, p);
+    return AjouteSegment(outils);
 }
 
-Bande ApercuSymetrique(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Segment.SetExtremiteSymetrique(p);
-    return BandeSegment(zone);
+Bande BandeSymetrique(Machine& outils, const PointVek& p) {
+    outils.Protos.Segment.SetExtremiteSymetrique(p);
+    return BandeProto(outils);
 }
 
-bool FinSymetrique(ZoneDessin& zone, const PointVek& p) {
-    ApercuSymetrique(zone, p);
-    return AjouteSegment(zone);
+bool FinSymetrique(Machine& outils, const PointVek& p) {
+    BandeSymetrique(outils, p);
+    return AjouteSegment(outils);
 }
 
 template <bool horaire>
-Bande ApercuAccroche(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Segment.Accroche(p, *zone.EltCourant, horaire);
-    return BandeSegment(zone);
+Bande BandeAccroche(Machine& outils, const PointVek& p) {
+    outils.Protos.Segment.Accroche(p, *outils.EltCourant, horaire);
+    return BandeProto(outils);
 }
 
 template <bool horaire>
-bool FinAccroche(ZoneDessin& zone, const PointVek& p) {
-    ApercuAccroche<horaire>(zone, p);
-    return AjouteSegment(zone);
+bool FinAccroche(Machine& outils, const PointVek& p) {
+    BandeAccroche<horaire>(outils, p);
+    return AjouteSegment(outils);
 }
 
-bool PrendArc(ZoneDessin& zone, const PointVek& p) {
-    return zone.Prend(BddCourante.ChercheType(p, TypeArc));
+bool PrendArc(Machine& outils, const PointVek& p) {
+    return outils.Prend(BddCourante.ChercheType(p, TypeArc));
 }
 
-bool PrendSecondArc(ZoneDessin& zone, const PointVek& p) {
-    return zone.PrendSecond(BddCourante.ChercheType(p, TypeArc));
+bool PrendSecondArc(Machine& outils, const PointVek& p) {
+    return outils.PrendSecond(BddCourante.ChercheType(p, TypeArc));
 }
 
-Bande ApercuTangente(ZoneDessin& zone, const PointVek& p) {
-    if (!zone.Protos.Segment.Tangente2Arcs(p, *zone.EltCourant, *zone.EltCopie)) return {};
-    return BandeSegment(zone);
+Bande BandeTangente(Machine& outils, const PointVek& p) {
+    if (!outils.Protos.Segment.Tangente2Arcs(p, *outils.EltCourant, *outils.EltSecond)) return {};
+    return BandeProto(outils);
 }
 
-bool FinTangente(ZoneDessin& zone, const PointVek& p) {
-    if (ApercuTangente(zone, p)) AjouteSegment(zone);
+bool FinTangente(Machine& outils, const PointVek& p) {
+    if (BandeTangente(outils, p)) AjouteSegment(outils);
     return true;
 }
 
-bool PlaceParallele(ZoneDessin& zone, const PointVek& p) {
+bool PlaceParallele(Machine& outils, const PointVek& p) {
     const EltGeo* modele = BddCourante.ChercheType(p, TypeSegment);
-    if (!modele || !zone.Protos.Segment.DemandeParallele(CommeSegment(*modele), p)) return false;
-    return AjouteSegment(zone);
+    if (!modele || !outils.Protos.Segment.DemandeParallele(CommeSegment(*modele), p)) return false;
+    return AjouteSegment(outils);
 }
 
-bool PrendModeleOrtho(ZoneDessin& zone, const PointVek& p) {
+bool PrendModeleOrtho(Machine& outils, const PointVek& p) {
     EltGeo* modele = BddCourante.Cherche(p);
     if (!modele || !SeLitCommeSegment(*modele)) return false;
-    zone.Protos.Segment.Orthogonal(CommeSegment(*modele));
-    return zone.Prend(modele);
+    outils.Protos.Segment.Orthogonal(CommeSegment(*modele));
+    return outils.Prend(modele);
 }
 
-Bande ApercuOrtho(ZoneDessin& zone, const PointVek& p) {
-    zone.Protos.Segment.Place(p);
-    return BandeSegment(zone);
+Bande BandeOrtho(Machine& outils, const PointVek& p) {
+    outils.Protos.Segment.Place(p);
+    return BandeProto(outils);
 }
 
-bool FinOrtho(ZoneDessin& zone, const PointVek& p) {
-    ApercuOrtho(zone, p);
-    return AjouteSegment(zone);
+bool FinOrtho(Machine& outils, const PointVek& p) {
+    BandeOrtho(outils, p);
+    return AjouteSegment(outils);
 }
 
 }  // namespace
@@ -128,25 +128,25 @@ std::vector<LigneEtat> LignesSegments() {
         LigneEtat(ETAT_DROITE_1, ETAT_DROITE_1, "premier point").AuClic(DebutDroite, ETAT_DROITE_2),
         LigneEtat(ETAT_DROITE_2, ETAT_DROITE_1, "Deuxième point")
             .AuClic(FinDroite, ETAT_DROITE_1)
-            .Montre(ApercuDroite),
+            .Montre(BandeDroite),
 
         LigneEtat(ETAT_SEGMENT_1, ETAT_SEGMENT_1, "Position de l'origine du segment")
             .AuClic(DebutSegment, ETAT_SEGMENT_2),
         LigneEtat(ETAT_SEGMENT_2, ETAT_SEGMENT_1, "Position de l'extrémité du segment")
             .AuClic(FinSegment, ETAT_SEGMENT_1)
-            .Montre(ApercuSegment),
+            .Montre(BandeSegment),
 
         LigneEtat(ETAT_SEGMENT_CE_1, ETAT_SEGMENT_CE_1, "Position du milieu du segment")
             .AuClic(DebutSegment, ETAT_SEGMENT_CE_2),
         LigneEtat(ETAT_SEGMENT_CE_2, ETAT_SEGMENT_CE_1, "Position de l'extrémité du segment")
             .AuClic(FinSymetrique, ETAT_SEGMENT_CE_1)
-            .Montre(ApercuSymetrique),
+            .Montre(BandeSymetrique),
 
         LigneEtat(ETAT_SEGMENT_AE_1, ETAT_SEGMENT_AE_1, "Arc tangent horaire au segment")
             .AuClic(PrendElement, ETAT_SEGMENT_AE_2),
         LigneEtat(ETAT_SEGMENT_AE_2, ETAT_SEGMENT_AE_1, "Position de l'extrémité du segment")
             .AuClic(FinAccroche<true>, ETAT_SEGMENT_AE_1)
-            .Montre(ApercuAccroche<true>),
+            .Montre(BandeAccroche<true>),
 
         LigneEtat(ETAT_SEGMENT_AEANTI_1, ETAT_SEGMENT_AEANTI_1,
                   "Arc tangent antihoraire au segment")
@@ -154,7 +154,7 @@ std::vector<LigneEtat> LignesSegments() {
         LigneEtat(ETAT_SEGMENT_AEANTI_2, ETAT_SEGMENT_AEANTI_1,
                   "Position de l'extrémité du segment")
             .AuClic(FinAccroche<false>, ETAT_SEGMENT_AEANTI_1)
-            .Montre(ApercuAccroche<false>),
+            .Montre(BandeAccroche<false>),
 
         LigneEtat(ETAT_SEGMENT_AA_1, ETAT_SEGMENT_AA_1, "Arc tangent")
             .AuClic(PrendArc, ETAT_SEGMENT_AA_2),
@@ -162,7 +162,7 @@ std::vector<LigneEtat> LignesSegments() {
             .AuClic(PrendSecondArc, ETAT_SEGMENT_AA_3),
         LigneEtat(ETAT_SEGMENT_AA_3, ETAT_SEGMENT_AA_1, "Deuxième arc tangent")
             .AuClic(FinTangente, ETAT_SEGMENT_AA_1)
-            .Montre(ApercuTangente),
+            .Montre(BandeTangente),
 
         LigneEtat(ETAT_SEGMENT_PARA, ETAT_SEGMENT_PARA, "Quel segment ? De quel côté du segment ?")
             .AuClic(PlaceParallele, ETAT_SEGMENT_PARA)
@@ -173,6 +173,6 @@ std::vector<LigneEtat> LignesSegments() {
             .SansRepere(),
         LigneEtat(ETAT_SEGMENT_ORTHO_2, ETAT_SEGMENT_ORTHO_1, "Position du milieu du segment")
             .AuClic(FinOrtho, ETAT_SEGMENT_ORTHO_1)
-            .Montre(ApercuOrtho),
+            .Montre(BandeOrtho),
     };
 }

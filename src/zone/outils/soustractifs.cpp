@@ -17,10 +17,10 @@ std::vector<LigneEtat> LignesSoustractifs() {
             .AvecPoignees(),
         LigneEtat(ETAT_PERCAGE_3, ETAT_PERCAGE_1, "Cliquer sur un point du diamètre de perçage")
             .AuClic(AttacheRond<percage>, ETAT_PERCAGE_2)
-            .Montre(ApercuRond<percage>)
+            .Montre(BandeRond<percage>)
             .AvecPoignees(),
 
-        // A groove goes on with the holes: that is meant.
+        // A groove goes on with the holes: users drill behind it.
         LigneEtat(ETAT_RAINURE_1, ETAT_RAINURE_1, "Cliquer sur l'élément à rainurer")
             .AuClic(PrendElement, ETAT_RAINURE_2),
         LigneEtat(ETAT_RAINURE_2, ETAT_RAINURE_1, "Position de le point supérieur gauche du pavé")
@@ -28,7 +28,7 @@ std::vector<LigneEtat> LignesSoustractifs() {
             .AvecPoignees(),
         LigneEtat(ETAT_RAINURE_3, ETAT_RAINURE_1, "Position de le point inférieur droit du pavé")
             .AuClic(AttacheCoins<rainure>, ETAT_PERCAGE_1)
-            .Montre(ApercuCoins<rainure>)
+            .Montre(BandeCoins<rainure>)
             .AvecPoignees(),
 
         LigneEtat(ETAT_RAINURE_P_1, ETAT_RAINURE_P_1, "Cliquer sur l'élément à rainurer")
@@ -38,12 +38,12 @@ std::vector<LigneEtat> LignesSoustractifs() {
             .AvecPoignees(),
         LigneEtat(ETAT_RAINURE_P_3, ETAT_RAINURE_P_1, "Position du premier sommet du profil")
             .AuClic(PrendSommet<rainureP>, ETAT_RAINURE_P_4)
-            .Montre(ApercuChaine<rainureP>)
+            .Montre(BandeChaine<rainureP>)
             .AvecPoignees(),
         LigneEtat(ETAT_RAINURE_P_4, ETAT_RAINURE_P_1,
                   "Position du sommet suivant, Taper touche Fin pour finir le profil")
             .AuClic(PrendSommet<rainureP>, ETAT_RAINURE_P_4)
-            .Montre(ApercuChaine<rainureP>)
+            .Montre(BandeChaine<rainureP>)
             .ALaFin(AttacheChaine<rainureP>, ETAT_RAINURE_P_1)
             .AvecPoignees(),
 
@@ -55,12 +55,12 @@ std::vector<LigneEtat> LignesSoustractifs() {
         LigneEtat(ETAT_RAINURE_P_ELT_3, ETAT_RAINURE_P_ELT_1,
                   "Position du premier sommet du profil")
             .AuClic(PrendSommet<rainureP>, ETAT_RAINURE_P_ELT_4)
-            .Montre(ApercuChaine<rainureP>)
+            .Montre(BandeChaine<rainureP>)
             .AvecPoignees(),
         LigneEtat(ETAT_RAINURE_P_ELT_4, ETAT_RAINURE_P_ELT_1,
                   "Segment ou arc suivant, Taper touche Fin pour finir le profil")
             .AuClic(SuitElement<rainureP>, ETAT_RAINURE_P_ELT_4)
-            .Montre(ApercuChaine<rainureP>)
+            .Montre(BandeChaine<rainureP>)
             .ALaFin(AttacheChaine<rainureP>, ETAT_RAINURE_P_ELT_1)
             .AvecPoignees(),
 
@@ -71,7 +71,7 @@ std::vector<LigneEtat> LignesSoustractifs() {
             .AvecPoignees(),
         LigneEtat(ETAT_ENVBOULE_3, ETAT_ENVBOULE_1, "Cliquer sur un point du diamètre de la boule")
             .AuClic(AttacheRond<boule>, ETAT_ENVBOULE_1)
-            .Montre(ApercuRond<boule>)
+            .Montre(BandeRond<boule>)
             .AvecPoignees(),
     };
 }

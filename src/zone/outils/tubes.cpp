@@ -1,6 +1,5 @@
 // Tubes swept along a profile.
 
-#include <initializer_list>
 #include <vector>
 
 #include "model/bddgeo.h"
@@ -12,40 +11,38 @@ EltGeo* ProfilEn(const PointVek& p) {
     return BddCourante.ChercheType(p, TypeProfil);
 }
 
-bool DemandeJonc(ZoneDessin& zone) {
-    if (!zone.DemandeRayon()) return false;
-    zone.Protos.ProfilTubeRond.rayon = zone.Rayon;
+bool DemandeJonc(Machine& outils) {
+    if (!outils.DemandeRayon()) return false;
+    outils.Protos.ProfilTubeRond.rayon = outils.Rayon;
     return true;
 }
 
 template <auto Proto>
-bool Accroche(ZoneDessin& zone, const PointVek& p) {
-    (zone.Protos.*Proto).Place(p);
+bool Accroche(Machine& outils, const PointVek& p) {
+    (outils.Protos.*Proto).Place(p);
     return true;
 }
 
 /// Adds a copy of the prototype that holds the profiles as its children.
-void AjouteTube(ZoneDessin& zone, const EltGeo& prototype, std::initializer_list<EltGeo*> profils) {
-    if (EltGeo* tube = BddCourante.Ajoute(prototype))
-        for (EltGeo* profil : profils)
-            tube->AjouteFils(profil);
-    zone.Redessine();
+void AjouteTube(Machine& outils, const EltGeo& prototype, const std::vector<EltGeo*>& profils) {
+    BddCourante.AjouteParent(prototype, profils);
+    outils.Redessine();
 }
 
-bool PoseJonc(ZoneDessin& zone, const PointVek& p) {
+bool PoseJonc(Machine& outils, const PointVek& p) {
     EltGeo* chemin = ProfilEn(p);
-    if (chemin) AjouteTube(zone, zone.Protos.ProfilTubeRond, {chemin});
+    if (chemin) AjouteTube(outils, outils.Protos.ProfilTubeRond, {chemin});
     return chemin;
 }
 
-bool PrendChemin(ZoneDessin& zone, const PointVek& p) {
-    return zone.Prend(ProfilEn(p));
+bool PrendChemin(Machine& outils, const PointVek& p) {
+    return outils.Prend(ProfilEn(p));
 }
 
 /// The envelope may be the path itself.
-bool PoseBoa(ZoneDessin& zone, const PointVek& p) {
+bool PoseBoa(Machine& outils, const PointVek& p) {
     EltGeo* enveloppe = ProfilEn(p);
-    if (enveloppe) AjouteTube(zone, zone.Protos.ProfilBoaRond, {zone.EltCourant, enveloppe});
+    if (enveloppe) AjouteTube(outils, outils.Protos.ProfilBoaRond, {outils.EltCourant, enveloppe});
     return enveloppe;
 }
 

@@ -4,26 +4,27 @@
 
 #include "model/echelle.h"
 #include "zone/outils/communs.h"
-#include "zone/zonedessin.h"
+#include "zone/machine.h"
+#include "zone/vuezone.h"
 
 namespace {
 
-bool CentreVue(ZoneDessin& zone, const PointVek& p) {
+bool CentreVue(Machine& outils, const PointVek& p) {
     EchelleCourante.Origine = p;
-    zone.VueChangee();
+    outils.VueChangee();
     return true;
 }
 
 /// The frame without the fill of the present style, which would hide what is framed.
-Bande ApercuCadre(ZoneDessin& zone, const PointVek& p) {
-    const PointVek& coin = zone.Protos.Rectangle.Origine;
-    zone.Protos.Rectangle.SetExtremite(p);
+Bande BandeCadre(Machine& outils, const PointVek& p) {
+    const PointVek& coin = outils.Protos.Rectangle.Origine;
+    outils.Protos.Rectangle.SetExtremite(p);
     return BandeDe(EltRectangle(coin, p, 0));
 }
 
-bool Zoome(ZoneDessin& zone, const PointVek& p) {
-    EchelleCourante.ZoomRectangle(zone.Protos.Rectangle.Origine, p, zone.Largeur());
-    zone.VueChangee();
+bool Zoome(Machine& outils, const PointVek& p) {
+    EchelleCourante.ZoomRectangle(outils.Protos.Rectangle.Origine, p, outils.Vue.Largeur());
+    outils.VueChangee();
     return true;
 }
 
@@ -37,6 +38,6 @@ std::vector<LigneEtat> LignesVue() {
             .AuClic(PrendCoin<&Prototypes::Rectangle>, ETAT_ZOOM_2),
         LigneEtat(ETAT_ZOOM_2, ETAT_ZOOM_1, "Zoom Position bas droite")
             .AuClic(Zoome, ETAT_ZOOM_1)
-            .Montre(ApercuCadre),
+            .Montre(BandeCadre),
     };
 }

@@ -1,9 +1,11 @@
-// Camera and keys.
+// The commands of the view: its keys, and its two menus.
 
 #include <gdk/gdkkeysyms.h>
+#include <gtkmm/stock.h>
 
 #include <algorithm>
 
+#include "dialogs/commande.h"
 #include "view3d/dessin3d.h"
 
 namespace {
@@ -100,7 +102,7 @@ bool Dessin3D::ToucheLumiere(unsigned touche) {
     switch (touche) {
         case GDK_j:
         case GDK_J:
-            // Down goes twice as fast as up: that is meant.
+            // Down goes twice as fast as up: users know the key so.
             change(Intensites[0], touche == GDK_j ? pas : -2.0 * pas);
             RegleLumiere(0);
             break;
@@ -176,5 +178,84 @@ void Dessin3D::MetVue(const PointVek& translation, double beta, double gamma) {
 
 void Dessin3D::CameraChangee() {
     SuitSouris();
+    queue_draw();
+}
+
+const std::vector<Commande<Dessin3D>>& Dessin3D::CommandesElement() {
+    using Ligne = Commande<Dessin3D>;
+    const auto entre = [](const char* nom, const char* touche, Edit edit) {
+        return Ligne(Ligne::Simple, nom, nom, [edit](Dessin3D& vue) { vue.Entre(edit); })
+            .AvecTouche(touche);
+    };
+    const auto axe = [](const char* nom, double alpha, double beta, double gamma) {
+        return Ligne(Ligne::Simple, nom, nom,
+                     [=](Dessin3D& vue) { vue.MetAxe(alpha, beta, gamma); })
+            .AvecTouche("a");
+    };
+    // Several share an accelerator, of which the first wins: only the open menu would read them.
+    static const std::vector<Ligne> table = {
+        Ligne(Ligne::Stock, "Prop", "", &Dessin3D::Prop)
+            .AvecImage(Gtk::Stock::PROPERTIES.id)
+            .AvecTouche("p"),
+        entre("Deplace", "D", Deplacement),
+        entre("Alpha", "a", TourneAlpha),
+        entre("Beta", "b", TourneBeta),
+        entre("Gamma", "g", TourneGamma),
+        entre("Direction", "d", Direction),
+        Ligne(Ligne::Menu, "Axe", "_Axe")
+            .Contient({axe("AxeX", 0.0, 90.0, 0.0), axe("AxeY", 0.0, -180.0, -90.0),
+                       axe("AxeZ", 0.0, 0.0, 0.0)}),
+        entre("Deforme", "D", PrendSommet),
+    };
+    return table;
+}
+
+const std::vector<Commande<Dessin3D>>& Dessin3D::CommandesOutil() {
+    using Ligne = Commande<Dessin3D>;
+    const auto ligne = [](const char* nom, const char* touche, const Ligne::Effet& effet) {
+        return Ligne(Ligne::Simple, nom, nom, effet).AvecTouche(touche);
+    };
+    const auto lumiere = [&](const char* nom, const char* touche, int indice) {
+        return ligne(nom, touche, [indice](Dessin3D& vue) { vue.BasculeLumiere(indice); });
+    };
+    static const std::vector<Ligne> table = {
+        ligne("Accrochage", "A", &Dessin3D::BasculeAccrochage),
+        ligne("VisuCentre", "C", &Dessin3D::BasculeVisuCentre),
+        Ligne::Trait(),
+        ligne("VueFace", "F", &Dessin3D::VueFace),
+        ligne("VueDerriere", "D", &Dessin3D::VueDerriere),
+        ligne("VueGauche", "G", &Dessin3D::VueGauche),
+        ligne("VueDroite", "H", &Dessin3D::VueDroite),
+        ligne("VueDessus", "E", &Dessin3D::VueDessus),
+        ligne("VueDessous", "R", &Dessin3D::VueDessous),
+        Ligne::Trait(),
+        ligne("Texture", "T", &Dessin3D::BasculeTextures),
+        lumiere("Lum0", "L", 0),
+        lumiere("Lum1", "l", 1),
+    };
+    return table;
+}
+
+void Dessin3D::BasculeAccrochage() {
+    Accrochage = !Accrochage;
+    ChercheAccroche();
+    queue_draw();
+}
+
+void Dessin3D::BasculeVisuCentre() {
+    VisuCentre = !VisuCentre;
+    queue_draw();
+}
+
+void Dessin3D::BasculeTextures() {
+    Dc.BasculeTextures();
+    queue_draw();
+}
+
+void Dessin3D::BasculeLumiere(int indice) {
+    if (!Dc.Actif()) return;
+    const bool allume = !Dc.LumiereAllumee(indice);
+    Dc.AllumeLumiere(indice, allume);
+    if (allume) EditCourant = indice == 0 ? PlaceLumiere0 : PlaceLumiere1;
     queue_draw();
 }

@@ -1,0 +1,81 @@
+#include "model/annulation.h"
+
+#include <utility>
+
+#include "model/bddgeo.h"
+
+PasAjout::PasAjout(std::unique_ptr<EltGeo> elt) : Sorti(std::move(elt)), Cible(Sorti.get()) {}
+
+void PasAjout::Fait(BDDGeo& bdd) {
+    if (!Sorti) return;
+    Sorti->ReferenceFils();
+    bdd.AjouteDebut(std::move(Sorti));
+}
+
+void PasAjout::Defait(BDDGeo& bdd) {
+    Sorti = bdd.Detache(Cible, true);
+}
+
+void PasRetrait::Fait(BDDGeo& bdd) {
+    Sorti = bdd.Detache(Cible, false);
+}
+
+void PasRetrait::Defait(BDDGeo& bdd) {
+    if (Sorti) bdd.AjouteFin(std::move(Sorti));
+}
+
+PasCoupe::PasCoupe(std::vector<EltGeo*> elements) : Cibles(std::move(elements)) {}
+
+void PasCoupe::Fait(BDDGeo& bdd) {
+    Sortis = bdd.Detache(Cibles, true);
+}
+
+void PasCoupe::Defait(BDDGeo& bdd) {
+    for (auto sorti = Sortis.rbegin(); sorti != Sortis.rend(); ++sorti)
+        if (*sorti) bdd.AjouteFin(std::move(*sorti))->ReferenceFils();
+}
+
+PasChange::PasChange(EltGeo& cible, std::unique_ptr<EltGeo> avant)
+    : Cible(&cible), Autre(std::move(avant)) {}
+
+void PasChange::Fait(BDDGeo& bdd) {
+    if (!bdd.Elements.Contient(Cible)) return;
+    auto present = Cible->Clone();
+    bdd.Remplace(*Cible, *Autre);
+    Autre = std::move(present);
+}
+
+void PasLien::Fait(BDDGeo&) {
+    Parent->AjouteFils(Fils);
+}
+
+void PasLien::Defait(BDDGeo&) {
+    if (Parent->Fils.Contient(Fils)) Parent->RetireFils(Fils);
+}
+
+void PasEnsemble::Fait(BDDGeo& bdd) {
+    for (const auto& pas : Tous)
+        pas->Fait(bdd);
+}
+
+void PasEnsemble::Defait(BDDGeo& bdd) {
+    for (auto pas = Tous.rbegin(); pas != Tous.rend(); ++pas)
+        (*pas)->Defait(bdd);
+}
+
+void Historique::Fait(std::unique_ptr<Pas> pas) {
+    pas->Fait(Bdd);
+    Note(std::move(pas));
+}
+
+void Historique::Note(std::unique_ptr<Pas> pas) {
+    Faits.push_back(std::move(pas));
+}
+
+bool Historique::Annule() {
+    if (Faits.empty()) return false;
+    const std::unique_ptr<Pas> pas = std::move(Faits.back());
+    Faits.pop_back();
+    pas->Defait(Bdd);
+    return true;
+}
