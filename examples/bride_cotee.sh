@@ -14,7 +14,7 @@ cd "$(dirname "$0")/.."
 ligne_courante=continu
 surface_courante=vide
 trait() {
-    option 10
+    commande Trait
     attend "Style du trait courant"
     xdotool key ctrl+a
     tape "$1"
@@ -36,7 +36,7 @@ trait() {
 
 # texte X Y TAILLE MOTS
 texte() {
-    creation 3
+    commande Texte
     remplit "Texte :" "$4" - "$3"
     pts "$1" "$2"
 }
@@ -44,7 +44,7 @@ texte() {
 # entoure X Y AVANT [APRES]: puts words before and behind the value of the dimension whose text is
 # there.
 entoure() {
-    sur "$1" "$2" 1
+    sur "$1" "$2" Prop
     attend "Propriété de la cote"
     xdotool key --delay 30 Tab Tab Tab Home
     tape "$3"
@@ -71,17 +71,17 @@ demarre
 cherche_origine
 xdotool key o  # Two pixels to the unit.
 pas_de_grille 5
-option 12  # Préférences Cotes
+commande PrefCote
 remplit "Préférences Texte" - 5
-option 11  # Préférences Textes
+commande PrefTxt
 remplit "Préférences Texte" - - 5
 
 # The frame, and the ends of the cutting plane.
 trait 3 continu vide
-creation 18  # Rectangle
+commande Rectangle
 feuille
 pts -300 185 300 -185
-creation 0  # Segment
+commande Segment
 pas_de_grille 1
 face
 pts 0 118 0 130 0 -118 0 -130
@@ -89,9 +89,9 @@ pts 0 118 0 130 0 -118 0 -130
 # The axis lines.
 couleur "$rouge"
 trait 1 axe vide
-creation 1  # Cercle
+commande Cercle
 pts 0 0 75 0
-creation 0  # Segment
+commande Segment
 pts 40 -40 76 -76  # The hole's own.
 pts -55 0 55 0 0 -55 0 55
 coupe
@@ -100,21 +100,21 @@ pts -10 0 75 0 -8 75 33 75
 # What is seen.
 couleur "$noir"
 trait 2 continu vide
-creation 1  # Cercle
+commande Cercle
 face
 pts 0 0 100 0 0 0 45 0 0 0 35 0 0 0 25 0
-creation 17  # Cercle Rayon: the tapped hole, where its axes cross
+commande CercleRayon  # The tapped hole, where its axes cross
 valide "Rayon" 10
-option 5  # Point Particulier
+commande PointParticulier
 pts 54 -53
-option 5
-creation 18  # Rectangle
+commande PointParticulier
+commande Rectangle
 feuille
 pts 120 -130 300 -185
 pts -300 -100 -130 -185
 coupe
 pts 0 100 25 85
-creation 0  # Segment
+commande Segment
 pts 0 85 0 65 25 85 25 65            # The hole's ends
 pts 0 25 0 65 0 65 25 65 25 65 25 55 # The plate
 pts 35 45 60 45 65 40 65 35            # The hub
@@ -123,45 +123,45 @@ pts 0 25 0 -25 55 25 55 -25 65 35 65 -35
 face
 pts -22 124 0 124 -7 128 0 124 -7 120 0 124
 pts -22 -124 0 -124 -7 -128 0 -124 -7 -120 0 -124
-creation 16  # Arc Rayon Tgt 2 Elements
+commande ArcRayon
 coupe
 valide "Rayon" 10
 pts 25 60 48 45 33 53
-creation 16
+commande ArcRayon
 valide "Rayon" 5
 pts 48 45 65 37 58 38
 
 # The thread, and the lines of the title block.
 trait 1 continu vide
-creation 0  # Segment
+commande Segment
 pts 0 63 25 63 0 87 25 87
 feuille
 pts 120 -150 300 -150 120 -168 300 -168 215 -150 215 -185
-creation 17  # Cercle Rayon
+commande CercleRayon
 face
 valide "Rayon" 12
-option 5
+commande PointParticulier
 pts 54 -53
-option 5
-sur 65 -53 1
+commande PointParticulier
+sur 65 -53 Prop
 remplit "Propriété du cercle" - - - - 45 270
 
 # The hole becomes a group, about the axis of the flange, and is shown four times, turned.
-edition 3  # Sélection
+commande ZoneSelection
 pts 0 0 100 -100
-edition 7  # Couper Vek
-edition 4  # Annuler Sélection
-edition 10  # Coller Comme BDD
+commande CouperVek
+commande AnnuleSelection
+commande CollerVekCommeBDD
 feuille
 pts -292 -106
 valide "Identificateur" TROU
 couleur "$rouge"
-creation 21  # Image de BDD
+commande Image
 valide "Identificateur de la BDD" TROU
 face
 for angle in 45 135 225 315; do
     pts 0 0
-    sur 0 0 1
+    sur 0 0 Prop
     remplit "Image de bdd" - - - - "$angle"
 done
 photo 1-vue-de-face
@@ -169,17 +169,17 @@ photo 1-vue-de-face
 # The hatch of the upper half, which a mirrored copy makes the lower one.
 couleur "$gris"
 trait 1 continu hachuree
-creation 18  # Rectangle
+commande Rectangle
 coupe
 pts 0 100 25 85
-creation 20  # Profil sur éléments
+commande ProfilElt
 pts 12 50 0 25
 pts 0 45 12 65 25 60 28 48 48 45 64 44 65 37 60 30 32 25
 xdotool key End
-edition 3  # Sélection
+commande ZoneSelection
 pts -15 105 80 5
-edition 6  # Copier Vek
-edition 4  # Annuler Sélection
+commande CopierVek
+commande AnnuleSelection
 xdotool key x  # Symétrie X
 sleep 0.3
 pts -15 -105
@@ -189,25 +189,25 @@ photo 2-coupe
 # The dimensions.
 couleur "$bleu"
 trait 1 continu vide
-cote 1  # Verticale
+commande CoteVert
 pts 0 63 0 87 -18 75
 pts 60 -45 60 45 100 0
 pts 25 -100 25 100 120 0
-cote 2  # Horizontale
+commande CoteHori
 pts 0 -100 25 -100 12 -114
 pts 0 -100 65 -40 32 -130
-cote 6  # Rayon
+commande CoteRayon
 pts 60 45 60 40 66 64  # The dimension is drawn from its second point
-cote 7  # Rayon Arc
+commande CoteRayonArc
 pts 28 -48 24 -11
-cote 3  # Angle
+commande CoteAng
 pts 55 25 55 25 79 25 72 42
-cote 0  # Cote
+commande Cote
 face
 pts -75 0 0 75 -80 80
-cote 4  # Diamètre
+commande CoteDia
 pts -15 -20 15 20 -29 50
-cote 5  # Diamètre Arc
+commande CoteDiaArc
 pts -60 45 41 71 -21 28 -53 31
 entoure -29 50 Ø
 entoure 41 71 Ø
@@ -220,8 +220,8 @@ entoure -18 75 M
 entoure 66 64 R
 entoure 24 -11 R
 # Over the hatch.
-sur 66 64 2
-sur 24 -11 2
+sur 66 64 Avant
+sur 24 -11 Avant
 photo 3-cotes
 
 # The words.

@@ -37,7 +37,7 @@ pas_de_grille 1
 
 # The outlines that profiles follow.
 couleur "$noir"
-creation 0  # Segment
+commande Segment
 nervure
 pts 16 0 44 0  44 0 44 4  20 28 16 28
 levier
@@ -46,7 +46,7 @@ bouton
 pts 0 0 8 0  8 0 8 3  8 3 5 6
 plan
 pts 28 40 64 40  64 26 28 26
-creation 12  # Arc C D F
+commande ArcCDF
 nervure
 pts 44 28 20 28 44 4
 levier
@@ -55,7 +55,7 @@ bouton
 pts 0 18 5 6 0 31
 plan
 pts 64 33 64 26 64 40  28 33 28 40 28 26
-creation 20  # Profil sur éléments: the axis of the lever.
+commande ProfilElt  # The axis of the lever.
 levier
 pts 0 0 0 0  0 10 4 30 25 34 46 38 50 51
 xdotool key End
@@ -64,59 +64,59 @@ photo 1-profils
 # The planks: their image in greys, on the top alone, takes the colour of the solid.
 plan
 couleur "$bois"
-creation3d 0  # Pavé
+commande Pave
 pts -120 75 120 -75
 fiche 0 75 "$pave" Z=-14 h=14 texture=planche.png dessus= pourtour= repetition=
 
 # The plate, with its holes and its slot through, a blind hole and a pocket.
 couleur "$acier"
-creation3d 0
+commande Pave
 pts -100 55 100 -55
-creation3d 9  # Percage
+commande Percage
 pts 0 55
 pts -88 43 -82 43  88 43 94 43  -88 -43 -82 -43  88 -43 94 -43  # The corners
 pts -45 0 -29 0
-creation3d 12  # Rainure Profil sur éléments
+commande RainurePElt
 pts 0 55  46 33 28 40  46 40 71 33 46 26 21 33
 xdotool key End
 couleur "$fond"
-creation3d 9
+commande Percage
 pts 0 55  84 0 92 0
 fiche 92 0 "$rond" Z=4 h=6 debouchant=
-creation3d 10  # Rainure
+commande Rainure
 pts 0 55  20 -26 72 -40
 fiche 46 -26 "$pave" Z=5 h=5 debouchant=
 
 # The flange and its six holes, and the hub.
 couleur "$laiton"
-creation3d 2  # Cylindre
+commande Cylindre
 pts -45 0 1 0
 fiche 1 0 "$rond" Z=10 h=12 brillance=40
-creation3d 9
+commande Percage
 pts 1 0  -45 0 -31 0
 fiche -31 0 "$rond" Z=10 h=12
 couronne="-11,0 -28,29 -62,29 -79,0 -62,-29 -28,-29"  # Thirty-four from the axis
 for trou in $couronne; do
     x=${trou%,*} y=${trou#*,}
-    creation3d 9
+    commande Percage
     pts 1 0  "$x" "$y" $((x + 4)) "$y"
     fiche $((x + 4)) "$y" "$rond" Z=10 Rinf=4.5 Rsup=4.5 h=12
 done
-creation3d 2
+commande Cylindre
 pts -45 0 -25 0
 fiche -25 0 "$rond" Z=22 h=40 brillance=40
-creation3d 9
+commande Percage
 pts -25 0  -45 0 -33 0
 fiche -33 0 "$rond" Z=22 h=40
 
 # A rib, copied twice, between the holes.
 couleur "$bronze"
 nervure
-profil3d 2  # Profil Elevation Sur éléments
+commande ProfilEltElevation
 pts 0 0 16 0  30 0 44 2 27 11 18 28
 xdotool key End
 for y in -60 -120; do
-    edition 0  # Modifier
+    commande Select
     pts 0 0 0 0
     xdotool keydown Control_L
     pts 0 "$y"
@@ -130,11 +130,11 @@ photo 2-bride
 # The lever on its cone, and the knob at its end.
 plan
 couleur "$gris"
-creation3d 2
+commande Cylindre
 pts 25 0 39 0
 fiche 39 0 "$rond" Z=10 Rsup=9 h=14 brillance=40
 couleur "$acier"
-creation3d 4  # Jonc
+commande Jonc
 valide "Rayon" 5
 pts 25 0
 levier
@@ -143,7 +143,7 @@ plan
 fiche 25 0 "$jonc" Z=22 gamma=90 brillance=40
 couleur "$rouge"
 bouton
-profil3d 3  # Profil Tourne sur éléments
+commande ProfilEltTourne
 pts 0 -6 0 0  4 0 8 2 7 4 13 18
 xdotool key End
 fiche 0 -6 "$profil" X=75 Y=0 Z=70 gamma=90 facettes=80 brillance=40
@@ -156,20 +156,20 @@ quitte
 
 # What is read is what was written: saved again, under another name, it is the same file.
 demarre "$dessin"
-menu 0 4  # Enregistrer sous
+commande SaveAs
 valide "enregistrer" "$copie"
 essaie test -s "$copie"
 cmp "$dessin" "$copie"
 
 # The view in space, in the whole of the display.
-menu 6 9  # Vue 3D
+commande Vue3D
 attend "Vue 3D"
 xdotool mousemove 300 10 click --repeat 2 --delay 60 1
 essaie est_large
 sleep 1
 xdotool key f
-vide() { clic 1240 100; appuie Down "$1"; xdotool key Return; sleep 0.3; }  # Where nothing is
-vide 2  # VisuCentre: no white points.
+vide() { clic 1240 100; entre vue "$1"; }  # Where nothing is
+vide VisuCentre  # No white points.
 photo 4-dessus
 appuie ctrl+Page_Down 9
 appuie shift+Page_Up 3
@@ -178,7 +178,7 @@ appuie ctrl+Up 21
 appuie ctrl+shift+Down 12
 appuie ctrl+Right 2
 # The second lamp, held up to the left of the eye, lights the sides that look this way.
-vide 11  # Lum1
+vide Lum1
 va 200 200
 xdotool click --repeat 50 --delay 30 5
 clic 200 300

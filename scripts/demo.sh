@@ -13,31 +13,31 @@ demarre
 photo 1-fenetre-vide
 
 # A plate with rounded corners above and a boss: the middle of the drawing is at 640, 470.
-creation 18   # Rectangle
+commande Rectangle
 clic 440 370
 clic 840 590
-creation 1    # Cercle
+commande Cercle
 clic 640 480
 clic 640 420
-creation 17   # Cercle Rayon
+commande CercleRayon
 valide "Rayon" 18
 clic 480 410
 clic 800 410
 clic 480 550
 clic 800 550
-creation 0    # Segment
+commande Segment
 clic 560 660
 clic 560 760
 clic 560 760
 clic 700 760
-creation 16   # Arc Rayon Tgt 2 Elements
+commande ArcRayon
 valide "Rayon" 40
 clic 560 700
 clic 650 760
 xdotool mousemove 610 715 sleep 0.1 mousemove 612 713
 photo 2-bande
 clic 612 713
-creation 9    # Segment tgt 2 Arcs
+commande SegmentAA
 clic 462 410
 clic 818 410
 clic 640 380

@@ -12,6 +12,7 @@ ouvre_bureau() {
     export HOME=$bureau/home XDG_CONFIG_HOME=$bureau/home XDG_DATA_HOME=$bureau/home NO_AT_BRIDGE=1
     export LC_ALL=C.UTF-8  # For the accents that are typed.
     unset APPDATA
+    lit_places
     ouvre_ecran 1280x900
     openbox > /dev/null 2>&1 &
     sleep 0.3
@@ -97,40 +98,50 @@ appuie() {
     sleep 0.05
 }
 
-# menu RANG ENTREE: takes an entry of a menu of the bar, both counted from 0 without the separators.
-menu() {
+# The place of each command in its menu, as the program's tables tell it: barre, zone, element, vue.
+declare -A places
+lit_places() {
+    local menu nom rangs
+    while read -r menu nom rangs; do places[$menu/$nom]=$rangs; done < <("$(dirname "$KRVEK")/commandes" places)
+}
+
+# entre_rangs RANG...: goes down an open menu; a submenu opens with its first entry chosen.
+entre_rangs() {
+    appuie Down $(($1 + 1))
+    xdotool key Return
+    sleep 0.3
+    shift
+    local rang
+    for rang in "$@"; do
+        appuie Down "$rang"
+        xdotool key Return
+        sleep 0.3
+    done
+}
+
+# entre MENU NOM: takes the command of that name in the open menu.
+entre() {
+    # shellcheck disable=SC2086
+    entre_rangs ${places[$1/$2]:?"no command $2"}
+}
+
+# commande NOM: takes a command of the menu bar.
+commande() {
+    local rangs=${places[barre/$1]:?"no command $1"}
     xdotool mousemove 1240 860  # Where no menu opens under it.
     xdotool key F10
     sleep 0.15
-    appuie Right "$1"
-    appuie Down $(($2 + 1))
-    xdotool key Return
-    sleep 0.2
+    appuie Right "${rangs%% *}"
+    # shellcheck disable=SC2086
+    entre_rangs ${rangs#* }
 }
 
-edition() { menu 1 "$1"; }
-creation() { menu 2 "$1"; }
-cote() { menu 3 "$1"; }
-option() { menu 5 "$1"; }
-creation3d() { menu 7 "$1"; }
-
-# profil3d RANG: takes an entry of the submenu of the profiles in space.
-profil3d() {
-    creation3d 3
-    appuie Down "$1"
-    xdotool key Return
-    sleep 0.2
-}
-
-# popup X Y ENTREE: takes an entry of the menu that the right button opens at a point of the display:
-# 0 Sup, 1 Propriétés, 2 Avant, 3 Arriere.
+# popup X Y NOM: takes a command of the menu that the right button opens at a point of the display.
 popup() {
     va "$1" "$2"
     xdotool click 3
     sleep 0.2
-    appuie Down $(($3 + 1))
-    xdotool key Return
-    sleep 0.2
+    entre zone "$3"
 }
 
 # tape TEXTE: types it. What no key of the keyboard bears is given by its number, after Ctrl+Shift+U.
@@ -203,7 +214,7 @@ pts() {
     done
 }
 
-# sur X Y ENTREE: takes an entry of the menu of the element at that point.
+# sur X Y NOM: takes a command of the menu of the element at that point.
 sur() {
     popup "$(en_x "$1")" "$(en_y "$2")" "$3"
 }
@@ -211,7 +222,7 @@ sur() {
 # fiche X Y PROPRES CHAMP=VALEUR...: changes the properties of the solid at that point, given in the
 # order of the dialog. PROPRES are the fields between Z and h. A mark, as in debouchant=, turns over.
 fiche() {
-    sur "$1" "$2" 1
+    sur "$1" "$2" Prop
     attend "Propri"
     local champ champs="X Y Z $3 h alpha beta gamma texture facettes
         dessus dessous pourtour repetition echelle brillance gouraud debouchant"
@@ -237,7 +248,7 @@ pave="Longueur Largeur" rond="Rinf Rsup" jonc=Rinf profil=
 
 # couleur CODE: the colour of the next elements.
 couleur() {
-    option 9
+    commande Couleur
     attend "Couleur"
     xdotool key --delay 40 alt+n ctrl+a
     tape "$1"
@@ -247,6 +258,6 @@ couleur() {
 
 # pas_de_grille PAS
 pas_de_grille() {
-    option 3
+    commande GrillePas
     valide "pas de la grille" "$1"
 }

@@ -112,7 +112,7 @@ ouvre() {
 
 # affiche CALQUE: shows that layer alone; -1 all of them.
 affiche() {
-    menu 4 1
+    commande CalquesAfficher
     valide "calque" "$1"
 }
 
@@ -142,7 +142,7 @@ ferme() {
 
 # hachures: the hatch of the next elements, put or taken away.
 hachures() {
-    option 10  # Trait
+    commande Trait
     attend "Style du trait courant"
     appuie Tab 6
     xdotool key space Return
@@ -167,14 +167,14 @@ image_formes() {
     mots 0 -78 'Droite'
     clics -90 -68 80 -54
     ouvre
-    creation 0; pts -140 30 -92 60
-    creation 1; pts -38 48 -14 48
-    creation 2; pts 38 48 62 48
-    creation 4; pts 115 46
-    creation 5; pts -90 -68 80 -54
-    creation 3; remplit "Texte :" 'Acier à 45° Ø12' 0 7; pts -138 -26
-    creation 3; remplit "Texte :" 'Pièce n° 2' 20 7; pts -22 -30
-    creation 3; remplit "Texte :" 'Échelle' 0 14; pts 68 -28
+    commande Segment; pts -140 30 -92 60
+    commande Cercle; pts -38 48 -14 48
+    commande Disque; pts 38 48 62 48
+    commande Point; pts 115 46
+    commande Droite; pts -90 -68 80 -54
+    commande Texte; remplit "Texte :" 'Acier à 45° Ø12' 0 7; pts -138 -26
+    commande Texte; remplit "Texte :" 'Pièce n° 2' 20 7; pts -22 -30
+    commande Texte; remplit "Texte :" 'Échelle' 0 14; pts 68 -28
     affiche -1
     sol
     ferme
@@ -200,12 +200,12 @@ image_segments() {
     segment 65 -68 135 -68
     clics 85 -68 105 -38
     ouvre
-    creation 6; pts -100 42 -72 60
-    creation 7; pts -33 55 38 65
-    creation 8; pts 67 55 138 65
-    creation 10; pts -14 -52; valide "istance" 15
-    creation 11; pts 85 -68 105 -38
-    creation 9; pts -141 -34 -68 -33  # Seen before the third click
+    commande SegmentCE; pts -100 42 -72 60
+    commande SegmentAE; pts -33 55 38 65
+    commande SegmentAEAnti; pts 67 55 138 65
+    commande SegmentParaDist; pts -14 -52; valide "istance" 15
+    commande SegmentOrtho; pts 85 -68 105 -38
+    commande SegmentAA; pts -141 -34 -68 -33  # Seen before the third click
     affiche -1
     vise -98 -24
     sol
@@ -232,12 +232,12 @@ image_arcs() {
     marque d 80 -48 1
     marque d 112 -48 1
     ouvre
-    creation 12; pts -100 42 -74 36 -118 62
-    creation 13; pts 28 38 -28 38 0 22
-    creation 14; pts 119 40 95 54
-    creation 16; valide "Rayon" 20; pts 22 -68 -25 -32 -12 -56
-    creation 17; valide "Rayon" 14; pts 80 -48 112 -48
-    creation 15; pts -68 -66 -127 -25
+    commande ArcCDF; pts -100 42 -74 36 -118 62
+    commande ArcDFC; pts 28 38 -28 38 0 22
+    commande ArcTE; pts 119 40 95 54
+    commande ArcRayon; valide "Rayon" 20; pts 22 -68 -25 -32 -12 -56
+    commande CercleRayon; valide "Rayon" 14; pts 80 -48 112 -48
+    commande ArcTT; pts -68 -66 -127 -25
     affiche -1
     vise -92 -48
     sol
@@ -258,14 +258,14 @@ image_profils() {
     segment 93 50 93 15
     clics 117 38 g 93 15 bd 117 15 141 32 117 74
     ouvre
-    creation 18; pts -142 60 -92 15
+    commande Rectangle; pts -142 60 -92 15
     hachures
-    creation 19; pts -39 36 -63 12 -15 12 -15 45 -39 68
+    commande Profil; pts -39 36 -63 12 -15 12 -15 45 -39 68
     xdotool key End
-    creation 20; pts 117 38 93 15 117 15 141 32 117 74
+    commande ProfilElt; pts 117 38 93 15 117 15 141 32 117 74
     xdotool key End
     hachures
-    creation 19; pts 39 36 15 12 63 12 63 45
+    commande Profil; pts 39 36 15 12 63 12 63 45
     affiche -1
     vise 39 68
     sol
@@ -290,10 +290,10 @@ image_cotes() {
     marque bd 148 15 3
     marque g 128 55 4
     ouvre
-    cote 0; pts -143 15 -93 45 -130 50
-    cote 2; pts -65 15 -15 45 -40 62
-    cote 1; pts 13 15 63 45 76 30
-    cote 3; pts 98 15 98 15 148 15 128 55
+    commande Cote; pts -143 15 -93 45 -130 50
+    commande CoteHori; pts -65 15 -15 45 -40 62
+    commande CoteVert; pts 13 15 63 45 76 30
+    commande CoteAng; pts 98 15 98 15 148 15 128 55
     affiche -1
     sol
     ferme
@@ -313,10 +313,10 @@ image_cotes_rondes() {
     mots 115 -10 'Rayon Arc'
     clics 135 23 bg 90 71
     ouvre
-    cote 4; pts -135 23 -95 53 -120 72
-    cote 5; pts -18 53 -58 68
-    cote 6; pts 18 53 38 38 68 72
-    cote 7; pts 135 23 90 71
+    commande CoteDia; pts -135 23 -95 53 -120 72
+    commande CoteDiaArc; pts -18 53 -58 68
+    commande CoteRayon; pts 18 53 38 38 68 72
+    commande CoteRayonArc; pts 135 23 90 71
     affiche -1
     sol
     ferme
@@ -329,14 +329,6 @@ drapeau() {
     segment "$x" $((y + 30)) $((x + 26)) $((y + 22))
     segment $((x + 26)) $((y + 22)) "$x" $((y + 14))
     cercle $((x + 8)) $((y + 22)) 3
-}
-
-# colle_option RANG: takes an entry of the submenu of pasting.
-colle_option() {
-    edition 9
-    appuie Down "$1"
-    xdotool key Return
-    sleep 0.2
 }
 
 image_edition() {
@@ -359,22 +351,22 @@ image_edition() {
     segment 92 -50 128 -50
     clics bg 100 -50 bd 128 -50 140 -18
     ouvre
-    edition 3; pts -138 68 -98 26
-    edition 6  # Copier Vek
-    edition 8; pts -58 68  # Coller Vek
+    commande ZoneSelection; pts -138 68 -98 26
+    commande CopierVek
+    commande CollerVek; pts -58 68
     xdotool key x; sleep 0.3; pts 20 30
     xdotool key x; sleep 0.3
-    colle_option 2; valide "angle" 30; pts 92 58
-    colle_option 2; valide "angle" 0
-    edition 8; pts -138 -12
-    edition 10; pts -62 -12; valide "Identificateur" FANION
-    creation 21; valide "Identificateur de la BDD" FANION; pts 12 -12 52 -34
-    sur 52 -34 1; remplit "Image de bdd" - - - - 30 0.6
-    edition 3; pts -138 -12 -98 -54
-    edition 11
-    edition 4  # Annuler Sélection
-    edition 3; pts -138 68 -98 26
-    edition 0; pts 100 -50 128 -50  # Modifier
+    commande CollerRotation; valide "angle" 30; pts 92 58
+    commande CollerRotation; valide "angle" 0
+    commande CollerVek; pts -138 -12
+    commande CollerVekCommeBDD; pts -62 -12; valide "Identificateur" FANION
+    commande Image; valide "Identificateur de la BDD" FANION; pts 12 -12 52 -34
+    sur 52 -34 Prop; remplit "Image de bdd" - - - - 30 0.6
+    commande ZoneSelection; pts -138 -12 -98 -54
+    commande ZoneTrait
+    commande AnnuleSelection
+    commande ZoneSelection; pts -138 68 -98 26
+    commande Select; pts 100 -50 128 -50
     affiche -1
     vise 140 -18
     sol
@@ -406,22 +398,22 @@ image_accroche() {
     marque d 136 4 1
     ouvre
     xdotool key g
-    creation 0; pts -131 3 -96 42
+    commande Segment; pts -131 3 -96 42
     xdotool key Escape
     affiche -1
     part 1 -112
     affiche 0
     xdotool key g
-    option 5
-    creation 0; pts -60 0
+    commande PointParticulier
+    commande Segment; pts -60 0
     affiche -1; vise -36 33; part 2 -37
     xdotool key Escape
-    affiche 0; creation 0; pts 12 46
+    affiche 0; commande Segment; pts 12 46
     affiche -1; vise 56 36; part 3 37
     xdotool key Escape
-    affiche 0; creation 0; pts 136 4
+    affiche 0; commande Segment; pts 136 4
     affiche -1; vise 116 46; part 4 112
-    option 5
+    commande PointParticulier
     ferme
     convert "$bureau/$nom"-[1-4].png +append "$bureau/$nom.png"
 }
@@ -435,17 +427,15 @@ plan() {
         -border 1 -trim +repage "$bureau/$nom-plan.png"
 }
 
-# vide RANG: takes an entry of the menu of the 3D window, counted from 1, where nothing is.
+# vide NOM: takes a command of the menu of the 3D window, where nothing is.
 vide() {
     clic 30 50
-    appuie Down "$1"
-    xdotool key Return
-    sleep 0.3
+    entre vue "$1"
 }
 
 # espace: shows the drawing in the 3D window, from the front.
 espace() {
-    menu 6 9  # Vue 3D
+    commande Vue3D
     attend "Vue 3D"
     xdotool key f
 }
@@ -455,9 +445,7 @@ souleve() {
     local x=$((301 + 12 * $1 / 5)) y=$((320 - 12 * $2 / 5))
     xdotool key z  # The ball on the sheet
     clic "$x" "$y"
-    appuie Down 8  # Deforme
-    xdotool key Return
-    sleep 0.3
+    entre element Deforme
     clic "$x" "$y"
     xdotool click --repeat 4 --delay 40 5
     va "$x" "$y"
@@ -470,8 +458,8 @@ incline() {
     appuie ctrl+Page_Down 9
     appuie ctrl+Up 21
     appuie ctrl+shift+Down 15
-    vide 2  # VisuCentre
-    vide 11  # Lum1
+    vide VisuCentre
+    vide Lum1
     va 150 150
     xdotool click --repeat 40 --delay 10 5
     clic 150 151
@@ -500,13 +488,13 @@ image_corps() {
     clics 40 -40 62 -40
     ouvre
     couleur "$acier"
-    creation3d 0; pts -65 50 -20 20; fiche -42 50 "$pave" h=25
+    commande Pave; pts -65 50 -20 20; fiche -42 50 "$pave" h=25
     couleur "$laiton"
-    creation3d 1; pts 40 40 62 40
+    commande Sphere; pts 40 40 62 40
     couleur "$bronze"
-    creation3d 2; pts -40 -40 -18 -40; fiche -18 -40 "$rond" h=30
+    commande Cylindre; pts -40 -40 -18 -40; fiche -18 -40 "$rond" h=30
     couleur "$rouge"
-    creation3d 2; pts 40 -40 62 -40; fiche 62 -40 "$rond" Rsup=0 h=40
+    commande Cylindre; pts 40 -40 62 -40; fiche 62 -40 "$rond" Rsup=0 h=40
     plan
     espace
     incline
@@ -533,16 +521,16 @@ image_profils_espace() {
     clics g 28 -47 g 28 -59 bd 36 -59 54 -47 36 -35
     ouvre
     couleur "$acier"
-    profil3d 0; pts -57 36 -65 15 -15 15 -15 28 -48 28 -48 58 -65 58
+    commande ProfilElevation; pts -57 36 -65 15 -15 15 -15 28 -48 28 -48 58 -65 58
     xdotool key End; fiche -15 15 "$profil" h=20
     couleur "$laiton"
-    profil3d 1; pts 28 35 28 15 52 15 36 28 36 40 46 58 28 58
+    commande ProfilTourne; pts 28 35 28 15 52 15 36 28 36 40 46 58 28 58
     xdotool key End
     couleur "$bronze"
-    profil3d 2; pts -44 -44 -60 -60 -40 -60 -9 -44 -40 -28
+    commande ProfilEltElevation; pts -44 -44 -60 -60 -40 -60 -9 -44 -40 -28
     xdotool key End; fiche -44 -44 "$profil" h=20
     couleur "$rouge"
-    profil3d 3; pts 28 -47 28 -59 36 -59 54 -47 36 -35
+    commande ProfilEltTourne; pts 28 -47 28 -59 36 -59 54 -47 36 -35
     xdotool key End
     plan
     espace
@@ -567,11 +555,11 @@ image_tubes() {
     marque g 14 -56 3
     ouvre
     couleur "$acier"
-    creation3d 4; valide "Rayon" 5; pts -42 35 -20 55
+    commande Jonc; valide "Rayon" 5; pts -42 35 -20 55
     couleur "$laiton"
-    creation3d 5; pts 46 34 14 20 14 -56
+    commande Boa; pts 46 34 14 20 14 -56
     couleur "$bronze"
-    creation3d 6; pts -68 -22 -12 -66
+    commande ProfilSurface; pts -68 -22 -12 -66
     plan
     affiche $donne
     espace
@@ -595,19 +583,19 @@ image_percages() {
     clics 24 -40 40 -40 40 -19
     ouvre
     couleur "$acier"
-    creation3d 0; pts -66 62 -12 15; fiche -66 28 "$pave" h=20
-    creation3d 9; pts -66 28 -40 38 -27 38; fiche -27 38 "$rond" h=20
+    commande Pave; pts -66 62 -12 15; fiche -66 28 "$pave" h=20
+    commande Percage; pts -66 28 -40 38 -27 38; fiche -27 38 "$rond" h=20
     couleur "$laiton"
-    creation3d 0; pts 12 62 68 15; fiche 12 22 "$pave" h=20
-    creation3d 10; pts 12 22 26 54 56 30; fiche 40 54 "$pave" Z=12 h=8 debouchant=
+    commande Pave; pts 12 62 68 15; fiche 12 22 "$pave" h=20
+    commande Rainure; pts 12 22 26 54 56 30; fiche 40 54 "$pave" Z=12 h=8 debouchant=
     couleur "$bronze"
-    creation3d 0; pts -66 -18 -12 -62; fiche -66 -55 "$pave" h=20
-    creation3d 11; pts -66 -55 -40 -42 -56 -54 -28 -54 -40 -30
+    commande Pave; pts -66 -18 -12 -62; fiche -66 -55 "$pave" h=20
+    commande RainureP; pts -66 -55 -40 -42 -56 -54 -28 -54 -40 -30
     xdotool key End; fiche -40 -30 "$profil" h=20
     couleur "$rouge"
-    creation3d 0; pts 24 -24 56 -56; fiche 24 -52 "$pave" h=32
-    creation3d 9; pts 24 -52 40 -40 46 -40; fiche 46 -40 "$rond" h=32
-    creation3d 13; pts 24 -52 40 -40 40 -19; fiche 40 -19 Rayon Z=16
+    commande Pave; pts 24 -24 56 -56; fiche 24 -52 "$pave" h=32
+    commande Percage; pts 24 -52 40 -40 46 -40; fiche 46 -40 "$rond" h=32
+    commande EnvBoule; pts 24 -52 40 -40 40 -19; fiche 40 -19 Rayon Z=16
     plan
     espace
     incline
@@ -625,9 +613,9 @@ part_espace() {
 image_fenetre3d() {
     ouvre
     couleur "$acier"
-    creation3d 0; pts -40 40 30 -10; fiche -40 10 "$pave" h=25
+    commande Pave; pts -40 40 30 -10; fiche -40 10 "$pave" h=25
     couleur "$bronze"
-    creation3d 2; pts 60 -40 80 -40; fiche 80 -40 "$rond" h=30
+    commande Cylindre; pts 60 -40 80 -40; fiche 80 -40 "$rond" h=30
     espace
     incline
     # To a corner of the box: each time the key brings the ball nearer to the sheet under the mouse,
@@ -641,9 +629,7 @@ image_fenetre3d() {
     clic 219 339
     sleep 0.3
     part_espace 1
-    appuie Down 2  # Deplace
-    xdotool key Return
-    sleep 0.3
+    entre element Deplace
     va 232 400
     part_espace 2
     xdotool key Escape
@@ -672,9 +658,9 @@ cherche_origine
 vue 0 0
 xdotool key g  # Hides the grid.
 xdotool key o  # Two pixels to the unit.
-option 10  # Trait
+commande Trait
 remplit "Style du trait courant" 2 45 8
-option 12  # Préférences Cotes
+commande PrefCote
 remplit "Préférences Texte" - 5.5
 couleur "$bleu"
 pas_de_grille 10

@@ -16,6 +16,23 @@ void PasAjout::Defait(BDDGeo& bdd) {
     Sorti = bdd.Detache(Cible, true);
 }
 
+PasCollage::PasCollage(std::vector<std::unique_ptr<EltGeo>> elements)
+    : Sortis(std::move(elements)) {
+    for (const auto& elt : Sortis)
+        Cibles.push_back(elt.get());
+}
+
+void PasCollage::Fait(BDDGeo& bdd) {
+    for (auto& elt : Sortis)
+        if (elt) bdd.AjouteDebut(std::move(elt));
+}
+
+void PasCollage::Defait(BDDGeo& bdd) {
+    // From the head on, where each is found at once.
+    for (std::size_t rang = Cibles.size(); rang-- > 0;)
+        Sortis[rang] = bdd.Detache(Cibles[rang], true);
+}
+
 void PasRetrait::Fait(BDDGeo& bdd) {
     Sorti = bdd.Detache(Cible, false);
 }

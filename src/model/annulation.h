@@ -32,6 +32,18 @@ class PasAjout : public Pas {
     EltGeo* const Cible;
 };
 
+/// Elements are pasted: the last of them comes to stand at the head.
+class PasCollage : public Pas {
+  public:
+    explicit PasCollage(std::vector<std::unique_ptr<EltGeo>> elements);
+    void Fait(BDDGeo& bdd) override;
+    void Defait(BDDGeo& bdd) override;
+
+  private:
+    std::vector<std::unique_ptr<EltGeo>> Sortis;
+    std::vector<EltGeo*> Cibles;  ///< The same, wherever they are.
+};
+
 /// An element is deleted, and lets go of its children. Undone it comes back at the tail and not at
 /// its old place: users find it on top.
 class PasRetrait : public Pas {

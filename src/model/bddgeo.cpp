@@ -5,7 +5,6 @@
 #include <glibmm/miscutils.h>
 #include <gtkmm/recentmanager.h>
 
-#include <unordered_map>
 #include <unordered_set>
 
 #include "elements/ecrivain.h"
@@ -177,12 +176,16 @@ std::unique_ptr<EltGeo> BDDGeo::Detache(EltGeo* elt, bool garde) {
 
 std::vector<std::unique_ptr<EltGeo>> BDDGeo::Detache(const std::vector<EltGeo*>& elements,
                                                      bool garde) {
-    std::unordered_map<const EltGeo*, std::size_t> rangs;
-    for (std::size_t rang = 0; rang < elements.size(); ++rang)
-        rangs.emplace(elements[rang], rang);
     std::vector<std::unique_ptr<EltGeo>> detaches(elements.size());
-    Elements.RetireSi([&](const EltGeo& elt) { return rangs.count(&elt) > 0; },
-                      [&](EltGeo* elt) { detaches[rangs[elt]].reset(elt); });
+    std::size_t premier = 0, fin = elements.size();
+    Elements.RetireSi(
+        [&](const EltGeo& elt) {
+            return premier < fin && (&elt == elements[premier] || &elt == elements[fin - 1]);
+        },
+        [&](EltGeo* elt) {
+            const std::size_t rang = elt == elements[premier] ? premier++ : --fin;
+            detaches[rang].reset(elt);
+        });
     for (const auto& elt : detaches)
         if (elt) Delie(*elt, garde);
     return detaches;

@@ -121,7 +121,8 @@ class BDDGeo : public BDDGeoBase {
     /// list has no such element.
     std::unique_ptr<EltGeo> Detache(EltGeo* elt, bool garde);
 
-    /// The same for many in one walk: each at its rank in the argument.
+    /// The same for many in one walk, given in the order of the list or in the opposite one: each at
+    /// its rank in the argument.
     std::vector<std::unique_ptr<EltGeo>> Detache(const std::vector<EltGeo*>& elements, bool garde);
 
     /// Gives cible, an element of the list, the content of source.

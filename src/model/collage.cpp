@@ -28,16 +28,16 @@ void BDDGeo::CopieZone(const EltRectangle& zone, bool couper) {
 }
 
 void BDDGeo::Coller(const BDDGeoClipboard& collage, const PointVek& p, int calque) {
-    auto ensemble = std::make_unique<PasEnsemble>();
+    std::vector<std::unique_ptr<EltGeo>> clones;
     for (const EltGeo* elt : collage.Elements) {
         auto clone = elt->Clone();
         clone->Deplace(p);
         clone->Calque = calque;
         // The children of the source are not of this drawing.
         clone->Fils.Vide();
-        if (clone->EstFini()) ensemble->Ajoute(std::make_unique<PasAjout>(std::move(clone)));
+        if (clone->EstFini()) clones.push_back(std::move(clone));
     }
-    Histoire.Fait(std::move(ensemble));
+    Histoire.Fait(std::make_unique<PasCollage>(std::move(clones)));
 }
 
 void BDDGeo::CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,

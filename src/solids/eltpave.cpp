@@ -108,7 +108,7 @@ void EltPave::DessineFilaire(DC3D&) const {
     DessineCage(demi.x + marge, marge - demi.y, std::min(0.0, h) - marge, std::max(0.0, h) + marge);
 }
 
-std::vector<PointVek> EltPave::Reperes() const {
+std::vector<PointVek> EltPave::PointsAccroche() const {
     const PointVek demi = DemiCotes();
     std::vector<PointVek> reperes = {{}, {0.0, 0.0, h}};
     for (const double z : {0.0, h, h * 0.5})
@@ -120,11 +120,11 @@ std::vector<PointVek> EltPave::Reperes() const {
 
 double EltPave::Distance3D(const PointVek& p) const {
     const PointVek local = VersLocal(p - Position);
-    return ::Distance3D(local, PlusProche3D(local, Reperes()));
+    return ::Distance3D(local, PlusProche3D(local, PointsAccroche()));
 }
 
 PointVek EltPave::PointProche3D(const PointVek& p) const {
-    return Position + VersMonde(PlusProche3D(VersLocal(p - Position), Reperes()));
+    return Position + VersMonde(PlusProche3D(VersLocal(p - Position), PointsAccroche()));
 }
 
 void EltPave::DebutDeforme3D(const PointVek& p) {

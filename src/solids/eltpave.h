@@ -55,5 +55,5 @@ class EltPave : public EltRectangle, public Elt3d {
 
   private:
     /// The special points in the box's own axes.
-    std::vector<PointVek> Reperes() const;
+    std::vector<PointVek> PointsAccroche() const;
 };
