@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 . scripts/paquets.sh
 
 # shellcheck disable=SC2086
-installe $PAQUETS_CONSTRUCTION $PAQUETS_MARCHE $PAQUETS_ESSAIS
+installe $PAQUETS_CONSTRUCTION $PAQUETS_MARCHE $PAQUETS_ESSAIS $PAQUETS_DEMO
 
 construit build -DKRVEK_TESTS=ON -DCMAKE_BUILD_TYPE=Release
 construit build-sanitize -DKRVEK_SANITIZE=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo

@@ -77,8 +77,9 @@ void RepeinteCentieme(benchmark::State& etat) {
     Ecran ecran(FichierMesure(static_cast<int>(etat.range(0))));
     // One corner of the drawing, at the same scale.
     ecran.Montre(10200.0);
-    EchelleCourante.Origine = PointVek(4000.0 + ecran.zone.Vue.Largeur() / 2 / EchelleCourante.Facteur,
-                                       4000.0 + ecran.zone.Vue.Hauteur() / 2 / EchelleCourante.Facteur);
+    EchelleCourante.Origine =
+        PointVek(4000.0 + ecran.zone.Vue.Largeur() / 2 / EchelleCourante.Facteur,
+                 4000.0 + ecran.zone.Vue.Hauteur() / 2 / EchelleCourante.Facteur);
     for (auto _ : etat)
         ecran.Repeint();
 }

@@ -1,8 +1,7 @@
-// commandes places: prints where each command stands, for whoever chooses it by keys: its menu (barre;
-// zone, element and vue for the menus of the mouse), its name, and the rank of the entry in each level,
-// from 0.
-// commandes aide FILE: writes the list of the commands into the help page, between its two marks.
-// commandes verifie FILE: fails where that list is not up to date.
+// commandes places: prints where each command stands, for whoever chooses it by keys: its menu
+// (barre; zone, element and vue for the menus of the mouse), its name, and the rank of the entry in
+// each level, from 0. commandes aide FILE: writes the list of the commands into the help page,
+// between its two marks. commandes verifie FILE: fails where that list is not up to date.
 
 #include <algorithm>
 #include <fstream>

@@ -52,6 +52,6 @@ demarre "$demo/piece.vek"
 photo 5-rouverte
 quitte
 
-[ -s "$demo/piece.vek" ] || { echo "The drawing was not saved." >&2; exit 1; }
+[ "$(sed -n 2p "$demo/piece.vek")" = 11 ] || { echo "Not all was drawn and saved." >&2; exit 1; }
 echo "The drawing and the pictures of the window:"
 ls "$demo"/*.vek "$demo"/*.png

@@ -14,12 +14,12 @@ struct Enseigne {
     enum Genre { Simple, Icone, Stock, Bascule, Recents, Menu, Separateur };
 
     Genre Forme = Separateur;
-    std::string Nom;      ///< Of the action.
-    std::string Libelle;  ///< Empty: the stock item's.
-    std::string Bulle;    ///< Tooltip.
-    std::string Touche;   ///< Accelerator, as the toolkit reads it.
-    std::string Image;    ///< Name of an icon, or of a stock item.
-    std::string MotDonne; ///< Where the label is not what a user would call it.
+    std::string Nom;       ///< Of the action.
+    std::string Libelle;   ///< Empty: the stock item's.
+    std::string Bulle;     ///< Tooltip.
+    std::string Touche;    ///< Accelerator, as the toolkit reads it.
+    std::string Image;     ///< Name of an icon, or of a stock item.
+    std::string MotDonne;  ///< Where the label is not what a user would call it.
     bool DansMenu = true;
     int GroupeBarre = 0;  ///< Which group of the tool bar, from the left; 0: none.
     int RangBarre = 0;    ///< Place within it.

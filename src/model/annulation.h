@@ -8,8 +8,9 @@
 class BDDGeo;
 
 /// One step of a drawing's history. It knows how it is done and how it is undone, any number of
-/// times in turn, and owns the elements that are out of the drawing meanwhile. Steps are undone from
-/// the newest to the oldest; one whose element has left the drawing some other way does nothing.
+/// times in turn, and owns the elements that are out of the drawing meanwhile. Steps are undone
+/// from the newest to the oldest; one whose element has left the drawing some other way does
+/// nothing.
 class Pas {
   public:
     virtual ~Pas() = default;

@@ -16,8 +16,8 @@ class EltRectangle;
 /// The drawing: elements with undo, the searches at a point, and the file.
 ///
 /// Distances and positions are drawing units. Every change of an element or of its children goes
-/// through here: what can be undone is a step of the history, and the searches work on a table of the
-/// geometry.
+/// through here: what can be undone is a step of the history, and the searches work on a table of
+/// the geometry.
 class BDDGeo : public BDDGeoBase {
   public:
     EltGeo* AjouteDebut(std::unique_ptr<EltGeo> elt) override;
@@ -121,8 +121,8 @@ class BDDGeo : public BDDGeoBase {
     /// list has no such element.
     std::unique_ptr<EltGeo> Detache(EltGeo* elt, bool garde);
 
-    /// The same for many in one walk, given in the order of the list or in the opposite one: each at
-    /// its rank in the argument.
+    /// The same for many in one walk, given in the order of the list or in the opposite one: each
+    /// at its rank in the argument.
     std::vector<std::unique_ptr<EltGeo>> Detache(const std::vector<EltGeo*>& elements, bool garde);
 
     /// Gives cible, an element of the list, the content of source.

@@ -1,5 +1,5 @@
-// Gestures: the pointer, which stands under the mouse at a depth of its own; the edits, which follow
-// it; and what a click does.
+// Gestures: the pointer, which stands under the mouse at a depth of its own; the edits, which
+// follow it; and what a click does.
 
 #include <algorithm>
 #include <cmath>

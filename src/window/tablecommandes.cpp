@@ -50,7 +50,9 @@ Ligne Accroche(const char* nom, const char* libelle, const char* bulle,
     return Bascule(
                nom, libelle,
                [option](DessinWindow& fenetre) { fenetre.Zone.Souris.Bascule(option); },
-               [option](const DessinWindow& fenetre) { return fenetre.Zone.Souris.Options.*option; })
+               [option](const DessinWindow& fenetre) {
+                   return fenetre.Zone.Souris.Options.*option;
+               })
         .AvecBulle(bulle);
 }
 
@@ -174,8 +176,8 @@ Ligne MenuCreation() {
                   ETAT_SEGMENT_AEANTI_1),
             Outil("SegmentAA", "_Segment tgt 2 Arcs", "Cliquer sur 2 arcs", ETAT_SEGMENT_AA_1),
             Outil("SegmentParaDist", "_Segment //", "Cliquer sur un segment", ETAT_SEGMENT_PARA),
-            Outil("SegmentOrtho", "_Segment Ortho",
-                  "Cliquer sur un segment puis placer le segment", ETAT_SEGMENT_ORTHO_1),
+            Outil("SegmentOrtho", "_Segment Ortho", "Cliquer sur un segment puis placer le segment",
+                  ETAT_SEGMENT_ORTHO_1),
             Ligne::Trait(),
             Outil("ArcCDF", "_Arc C D F", "Cliquer sur le centre, le début et la fin de l'arc",
                   ETAT_ARC_CDF_1),
@@ -295,19 +297,19 @@ Ligne MenuCreation3D() {
                   ETAT_SPHERE_1),
             Outil("Cylindre", "_Cylindre", "Cliquer sur le centre et un point de la base",
                   ETAT_CYLINDRE_1),
-            Menu("Profil3D", "_Profil3D",
-                 {
-                     Outil("ProfilElevation", "_Profil Elevation", "Cliquer sur le centre",
-                           ETAT_ELEVATION_1),
-                     Outil("ProfilTourne", "_Profil Tourne", "Cliquer sur le centre",
-                           ETAT_TOURNE_1),
-                     Outil("ProfilEltElevation", "_Profil Elevation Sur élements",
-                           "Cliquer sur le centre", ETAT_ELEVATION_ELT_1)
-                         .AvecImage("ProfilElevation"),
-                     Outil("ProfilEltTourne", "_Profil Tourne sur éléments",
-                           "Cliquer sur le centre", ETAT_TOURNE_ELT_1)
-                         .AvecImage("ProfilTourne"),
-                 }),
+            Menu(
+                "Profil3D", "_Profil3D",
+                {
+                    Outil("ProfilElevation", "_Profil Elevation", "Cliquer sur le centre",
+                          ETAT_ELEVATION_1),
+                    Outil("ProfilTourne", "_Profil Tourne", "Cliquer sur le centre", ETAT_TOURNE_1),
+                    Outil("ProfilEltElevation", "_Profil Elevation Sur élements",
+                          "Cliquer sur le centre", ETAT_ELEVATION_ELT_1)
+                        .AvecImage("ProfilElevation"),
+                    Outil("ProfilEltTourne", "_Profil Tourne sur éléments", "Cliquer sur le centre",
+                          ETAT_TOURNE_ELT_1)
+                        .AvecImage("ProfilTourne"),
+                }),
             Outil("Jonc", "_Jonc", "Cliquer sur le centre et un profil", ETAT_JONC_1),
             Outil("Boa", "_Boa", "Cliquer sur le centre, le profil tracé, le profil enveloppe",
                   ETAT_BOA_1),

@@ -7,8 +7,8 @@
 #include "model/grille.h"
 #include "zone/bandes.h"
 
-/// What the drawing area shows, from the background up: the sheet, the zone selection, the grid, the
-/// drawing, and the bands over it.
+/// What the drawing area shows, from the background up: the sheet, the zone selection, the grid,
+/// the drawing, and the bands over it.
 class VueZone {
   public:
     /// The area painted on, to outlive this.

@@ -249,7 +249,8 @@ TEST(Echecs, UneConstructionImpossibleNAjouteRien) {
     banc.Zone.Outils.Entre(ETAT_SEGMENT_AA_1);
     banc.Souris.ClicA({100, 0});
     banc.Souris.ClicA({100, 0});
-    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_AA_2) << "the same arc again is no second arc";
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_SEGMENT_AA_2)
+        << "the same arc again is no second arc";
     banc.Souris.ClicA({60, 0});
     banc.Souris.BougeA({0, 30});
     EXPECT_EQ(banc.Image().Ecart(propre), 0) << "no band where a click would add nothing";

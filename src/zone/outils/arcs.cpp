@@ -4,8 +4,8 @@
 
 #include "elements/intersections.h"
 #include "model/bddgeo.h"
-#include "zone/outils/communs.h"
 #include "zone/machine.h"
+#include "zone/outils/communs.h"
 
 namespace {
 
@@ -109,7 +109,8 @@ bool PrendSecondAppui(Machine& outils, const PointVek& p) {
 }
 
 Bande BandeConge(Machine& outils, const PointVek& p) {
-    if (!outils.Protos.Arc.Tangent2ElementsRayon(*outils.EltCourant, *outils.EltSecond, p, outils.Rayon))
+    if (!outils.Protos.Arc.Tangent2ElementsRayon(*outils.EltCourant, *outils.EltSecond, p,
+                                                 outils.Rayon))
         return {};
     return BandeProto(outils);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "zone/outils/communs.h"
 #include "zone/machine.h"
+#include "zone/outils/communs.h"
 
 // Clicks and bands of the tools that fill a dimension, for the prototype named by Proto. A
 // preview shows the value as it is at that moment, like the dimension that the last click places.

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "model/bddgeo.h"
-#include "zone/outils/communs.h"
 #include "zone/machine.h"
+#include "zone/outils/communs.h"
 
 namespace {
 

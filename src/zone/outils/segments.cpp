@@ -5,8 +5,8 @@
 
 #include "elements/intersections.h"
 #include "model/bddgeo.h"
-#include "zone/outils/communs.h"
 #include "zone/machine.h"
+#include "zone/outils/communs.h"
 
 namespace {
 

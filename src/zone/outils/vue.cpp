@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "model/echelle.h"
-#include "zone/outils/communs.h"
 #include "zone/machine.h"
+#include "zone/outils/communs.h"
 #include "zone/vuezone.h"
 
 namespace {
