@@ -5,6 +5,7 @@
 #include <glibmm/miscutils.h>
 #include <gtkmm/recentmanager.h>
 
+#include <filesystem>
 #include <unordered_set>
 
 #include "elements/ecrivain.h"
@@ -37,6 +38,8 @@ void BDDGeo::Vide() {
     Modifie = false;
     Nomme = false;
     NomFichier.clear();
+    Original.clear();
+    NbEcrits = ++NbChangements;
 }
 
 void BDDGeo::Dessine(Trace& trace) const {
@@ -56,6 +59,7 @@ EltGeo* BDDGeo::Ajoute(std::unique_ptr<EltGeo> elt) {
     if (!elt->EstValide()) return nullptr;
     EltGeo* ajoute = elt.get();
     Histoire.Fait(std::make_unique<PasAjout>(std::move(elt)));
+    NoteChangement();
     return ajoute;
 }
 
@@ -71,6 +75,7 @@ void BDDGeo::AjouteFils(EltGeo& parent, const EltGeo& prototype) {
     ensemble->Ajoute(std::move(ajout));
     ensemble->Ajoute(std::move(lien));
     Histoire.Fait(std::move(ensemble));
+    NoteChangement();
 }
 
 void BDDGeo::AjouteParent(const EltGeo& prototype, const std::vector<EltGeo*>& fils) {
@@ -79,6 +84,7 @@ void BDDGeo::AjouteParent(const EltGeo& prototype, const std::vector<EltGeo*>& f
     for (EltGeo* elt : fils)
         parent->Fils.Ajoute(elt);
     Histoire.Fait(std::make_unique<PasAjout>(std::move(parent)));
+    NoteChangement();
 }
 
 namespace {
@@ -118,6 +124,7 @@ bool BDDGeo::ChangeSansRetour(EltGeo& cible, const EltGeo& source) {
     if (!Accepte(cible, source)) return false;
     Remplace(cible, source);
     Modifie = true;
+    NoteChangement();
     return true;
 }
 
@@ -146,17 +153,21 @@ bool BDDGeo::DemandeProprietes(EltGeo& elt) {
     // The dialog ran a loop of its own, and the element may have gone.
     if (!change || !Elements.Contient(&elt)) return false;
     Histoire.Note(std::make_unique<PasChange>(elt, std::move(avant)));
+    Table.Perime();
+    Modifie = true;
     NoteChangement();
     return true;
 }
 
 void BDDGeo::NoteChangement() {
-    Table.Perime();
-    Modifie = true;
+    ++NbChangements;
+    SignauxChangement.emit();
 }
 
 bool BDDGeo::Annule() {
-    return Histoire.Annule();
+    if (!Histoire.Annule()) return false;
+    NoteChangement();
+    return true;
 }
 
 void BDDGeo::Remplace(EltGeo& cible, const EltGeo& source) {
@@ -273,6 +284,7 @@ bool BDDGeo::Efface(const PointVek& p) {
     if (!elt || elt->NbParents != 0) return false;
     Histoire.Fait(std::make_unique<PasRetrait>(*elt));
     Modifie = true;
+    NoteChangement();
     return true;
 }
 
@@ -282,6 +294,7 @@ bool BDDGeo::ProprieteProche(const PointVek& p) {
     Modifie = true;
     elt->Proprietes();
     Table.Perime();
+    NoteChangement();
     return true;
 }
 
@@ -296,17 +309,28 @@ std::unique_ptr<EltGeo> BDDGeo::Decroche(const PointVek& p) {
 
 bool BDDGeo::Avant(const PointVek& p) {
     auto elt = Decroche(p);
-    return elt && AjouteFin(std::move(elt));
+    if (!elt) return false;
+    AjouteFin(std::move(elt));
+    NoteChangement();
+    return true;
 }
 
 bool BDDGeo::Arriere(const PointVek& p) {
     auto elt = Decroche(p);
-    return elt && AjouteDebut(std::move(elt));
+    if (!elt) return false;
+    AjouteDebut(std::move(elt));
+    NoteChangement();
+    return true;
 }
 
 void BDDGeo::ChangeTraitZone(const EltRectangle& zone, const Trait& trait) {
-    for (EltGeo* elt : Elements)
-        if (EstVisible(*elt) && zone.Contient(*elt)) elt->ChangeTrait(trait);
+    bool change = false;
+    for (EltGeo* elt : Elements) {
+        if (!EstVisible(*elt) || !zone.Contient(*elt)) continue;
+        elt->ChangeTrait(trait);
+        change = true;
+    }
+    if (change) NoteChangement();
 }
 
 void BDDGeo::Ouvre(std::string nom) {
@@ -318,18 +342,46 @@ void BDDGeo::Ouvre(std::string nom) {
     if (lu) LitTexte(texte);
 }
 
-void BDDGeo::EnregistreSous(std::string nom) {
+void BDDGeo::Recupere(std::string_view texte, std::string nom) {
+    Vide();
     NomFichier = std::move(nom);
-    Nomme = true;
-    Enregistre();
+    LitTexte(texte);
+    Modifie = true;
+    NoteChangement();
 }
 
-void BDDGeo::Enregistre() {
+bool BDDGeo::EnregistreSous(std::string nom) {
+    NomFichier = std::move(nom);
+    Nomme = true;
+    return Enregistre();
+}
+
+namespace {
+
+/// The same file under whatever names, through links too.
+bool MemeFichier(const std::string& a, const std::string& b) {
+    std::error_code erreur;
+    return std::filesystem::equivalent(a, b, erreur);
+}
+
+}  // namespace
+
+bool BDDGeo::GarderaOriginal() const {
+    return Nomme && !Original.empty() && MemeFichier(Original, NomFichier);
+}
+
+bool BDDGeo::Enregistre() {
     std::string chemin = NomFichier;
     if (!Glib::path_is_absolute(chemin))
         chemin = Glib::build_filename(Glib::get_current_dir(), chemin);
     Gtk::RecentManager::get_default()->add_item(Glib::filename_to_uri(chemin));
+    // Until the disk has it the drawing is unsaved, even where nothing was changed.
+    NbEcrits = NbChangements - 1;
     Ecrivain sortie;
     Sauve(sortie);
-    EcritFichier(NomFichier, sortie.Texte());
+    if (GarderaOriginal() && GardeACote(Original).empty()) return false;
+    if (!EcritFichier(NomFichier, sortie.Texte())) return false;
+    Original.clear();
+    NbEcrits = NbChangements;
+    return true;
 }

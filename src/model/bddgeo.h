@@ -8,6 +8,7 @@
 #include "model/annulation.h"
 #include "model/bddgeobase.h"
 #include "model/bddgeoclipboard.h"
+#include "model/bilanlecture.h"
 #include "model/tablerecherche.h"
 
 class EltBDD;
@@ -107,8 +108,27 @@ class BDDGeo : public BDDGeoBase {
     /// Replaces the drawing by a file's. What cannot be read leaves an empty or partly read drawing
     /// that bears the file's name all the same.
     void Ouvre(std::string nom);
-    void Enregistre();
-    void EnregistreSous(std::string nom);
+
+    /// Writes the drawing to its file. False when it did not reach the disk; errno says why.
+    bool Enregistre();
+    bool EnregistreSous(std::string nom);
+
+    /// Replaces the drawing by the text of a copy of one that was not saved; nom is the file that
+    /// it was to go to, empty for none. It is to be saved, under a name that will be asked for.
+    void Recupere(std::string_view texte, std::string nom);
+
+    /// Whether the next writing to the drawing's file keeps the former one beside it.
+    bool GarderaOriginal() const;
+
+    /// Whether the drawing differs from what has reached the disk: `Modifie` does not tell what an
+    /// undo, a cut or a change of styles did, nor that a file could not be written.
+    bool AEnregistrer() const { return Modifie || NbChangements != NbEcrits; }
+
+    /// A count that moves with every change of what a file would hold.
+    unsigned long Changements() const { return NbChangements; }
+
+    /// Tells of every such change, after it.
+    sigc::signal<void>& SignalChangement() { return SignauxChangement; }
 
     /// Tells that an element is about to leave the drawing, or with null that all are: whoever
     /// holds one lets go of it.
@@ -129,16 +149,22 @@ class BDDGeo : public BDDGeoBase {
     void Remplace(EltGeo& cible, const EltGeo& source);
 
     Historique Histoire{*this};
+    BilanLecture Lecture;          ///< Of the file that the drawing came from.
     BDDGeoClipboard PressePapier;  ///< What is offered to the system clipboard.
     TransformeColle Transforme;    ///< What every paste undergoes.
 
     std::string NomFichier;  ///< In the encoding of file names.
     bool Nomme = false;      ///< `NomFichier` names a file of the present format.
 
+    /// A file that holds more than what was read of it: before the drawing is written over it, it
+    /// is kept under another name. Empty for none.
+    std::string Original;
+
   private:
     template <class Admet>
     EltGeo* ChercheSelon(const PointVek& p, bool support, const Admet& admet, double& distance);
 
+    /// Something that a file would hold has changed.
     void NoteChangement();
 
     /// Unlinks the element, which has left the list, from its parents and children.
@@ -150,6 +176,9 @@ class BDDGeo : public BDDGeoBase {
     EltGeo* DernierTrouve = nullptr;
     mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;
+    unsigned long NbChangements = 0;
+    unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
+    sigc::signal<void> SignauxChangement;
 };
 
 /// The drawing of the program.

@@ -24,7 +24,10 @@ void BDDGeo::CopieZone(const EltRectangle& zone, bool couper) {
         PressePapier.AjouteDebut(std::move(clone));
         if (couper && elt->NbParents == 0) coupes.push_back(elt);
     }
-    if (couper) Histoire.Fait(std::make_unique<PasCoupe>(std::move(coupes)));
+    if (!couper) return;
+    const bool change = !coupes.empty();
+    Histoire.Fait(std::make_unique<PasCoupe>(std::move(coupes)));
+    if (change) NoteChangement();
 }
 
 void BDDGeo::Coller(const BDDGeoClipboard& collage, const PointVek& p, int calque) {
@@ -37,7 +40,9 @@ void BDDGeo::Coller(const BDDGeoClipboard& collage, const PointVek& p, int calqu
         clone->Fils.Vide();
         if (clone->EstFini()) clones.push_back(std::move(clone));
     }
+    const bool change = !clones.empty();
     Histoire.Fait(std::make_unique<PasCollage>(std::move(clones)));
+    if (change) NoteChangement();
 }
 
 void BDDGeo::CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
@@ -47,4 +52,5 @@ void BDDGeo::CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
     groupe->SetIdentificateur(identificateur);
     groupe->Place(p);
     AjouteDebut(std::move(groupe));
+    NoteChangement();
 }

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <new>
 #include <utility>
 #include <vector>
@@ -58,8 +59,8 @@ bool EcritSurPlace(const std::string& chemin, std::string_view contenu) {
     return fichier.Ouvert() && EcritTout(*fichier, contenu) && fichier.Ferme();
 }
 
-/// What renaming over the file would lose: it is a link, or other names lead to it, or it may not
-/// be written.
+/// What renaming over the file would lose: it is no plain file, or other names lead to it, or it
+/// may not be written.
 bool RenommageInterdit(const std::string& chemin, const struct stat& ancien) {
     return !S_ISREG(ancien.st_mode) || ancien.st_nlink > 1 || access(chemin.c_str(), W_OK) != 0;
 }
@@ -67,6 +68,26 @@ bool RenommageInterdit(const std::string& chemin, const struct stat& ancien) {
 /// Whether a new file was refused by the folder itself, and not for want of room.
 bool DossierFerme(int erreur) {
     return erreur == EACCES || erreur == EPERM || erreur == EROFS || erreur == ENAMETOOLONG;
+}
+
+/// Takes away what could not be finished; errno stays that of the failure.
+void Abandonne(const char* provisoire) {
+    const int erreur = errno;
+    unlink(provisoire);
+    errno = erreur;
+}
+
+/// The file that a name leads to, through links and links of links.
+std::string SansLien(std::string chemin) {
+    namespace fs = std::filesystem;
+    constexpr int sautsMax = 40;  // A loop of links is left to the opening, which refuses it.
+    std::error_code erreur;
+    for (int saut = 0; saut < sautsMax && fs::is_symlink(chemin, erreur); ++saut) {
+        const fs::path cible = fs::read_symlink(chemin, erreur);
+        if (erreur) break;
+        chemin = (fs::path(chemin).parent_path() / cible).string();
+    }
+    return chemin;
 }
 
 enum class Issue { Ecrit, Echec, Impossible };
@@ -87,17 +108,17 @@ Issue EcritACote(const std::string& chemin, std::string_view contenu) {
                                   (ancien.st_uid == geteuid() && ancien.st_gid == getegid()) ||
                                   fchown(*fichier, ancien.st_uid, ancien.st_gid) == 0;
     if (!memeProprietaire) {
-        unlink(provisoire.data());
+        Abandonne(provisoire.data());
         return Issue::Impossible;
     }
     // A file system without rights of its own refuses them; the content matters more.
     [[maybe_unused]] const int accordes = fchmod(*fichier, droits);
     if (!EcritEtFerme(fichier, contenu)) {
-        unlink(provisoire.data());
+        Abandonne(provisoire.data());
         return Issue::Echec;
     }
     if (std::rename(provisoire.data(), chemin.c_str()) == 0) return Issue::Ecrit;
-    unlink(provisoire.data());
+    Abandonne(provisoire.data());
     return Issue::Impossible;
 }
 
@@ -126,7 +147,28 @@ bool LitFichier(const std::string& chemin, std::string& contenu) {
 }
 
 bool EcritFichier(const std::string& chemin, std::string_view contenu) {
-    const Issue issue = EcritACote(chemin, contenu);
-    if (issue == Issue::Impossible) return EcritSurPlace(chemin, contenu);
+    const std::string fichier = SansLien(chemin);
+    const Issue issue = EcritACote(fichier, contenu);
+    if (issue == Issue::Impossible) return EcritSurPlace(fichier, contenu);
     return issue == Issue::Ecrit;
+}
+
+std::string GardeACote(const std::string& chemin) {
+    std::string contenu;
+    struct stat etat = {};
+    if (stat(chemin.c_str(), &etat) != 0 || !LitFichier(chemin, contenu)) return {};
+    constexpr int essaisMax = 10000;
+    for (int essai = 0; essai < essaisMax; ++essai) {
+        const std::string nom = chemin + (essai ? "~" + std::to_string(essai) + "~" : "~");
+        Descripteur copie(open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        if (!copie.Ouvert() && errno == EEXIST) continue;
+        if (!copie.Ouvert()) return {};
+        // A file system without rights of its own refuses them; the content matters more.
+        [[maybe_unused]] const int accordes = fchmod(*copie, etat.st_mode & 07777);
+        if (EcritEtFerme(copie, contenu)) return nom;
+        Abandonne(nom.c_str());
+        return {};
+    }
+    errno = EEXIST;
+    return {};
 }

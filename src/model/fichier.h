@@ -6,7 +6,11 @@
 /// The whole content of a regular file; false when it cannot be read.
 bool LitFichier(const std::string& chemin, std::string& contenu);
 
-/// Writes the file so that the former one stays whole when the writing cannot finish: beside it,
-/// flushed, then renamed. A link, or a file in a folder that takes no new one, is written in place.
-/// False when it cannot be written.
+/// Writes the file, or the one that a link leads to, so that the former one stays whole when the
+/// writing cannot finish: beside it, flushed, then renamed. One with several names, or in a folder
+/// that takes no new one, is written in place. False when it cannot be written; errno says why.
 bool EcritFichier(const std::string& chemin, std::string_view contenu);
+
+/// Copies the file to its name with a tilde behind, never over an existing one, with the same
+/// rights. The name of the copy; empty when it cannot be made; errno says why.
+std::string GardeACote(const std::string& chemin);

@@ -31,6 +31,7 @@ class QuestionEnregistrer : public Gtk::MessageDialog {
     explicit QuestionEnregistrer(Gtk::Window& parente)
         : Gtk::MessageDialog(parente, Texte(), false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_OK_CANCEL,
                              true) {
+        add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
         set_default_response(Gtk::RESPONSE_OK);
     }
 
@@ -84,17 +85,18 @@ void LaisseEcrireRecents() {
 }  // namespace
 
 void DessinWindow::New() {
-    if (BddCourante.Modifie) DemandeEnregistrement();
+    if (!PeutRemplacer(true) || !Abandonne()) return;
     Zone.Nouveau();
     MetTitre();
 }
 
 void DessinWindow::Open() {
-    if (BddCourante.Modifie) DemandeEnregistrement();
+    if (!PeutRemplacer(true)) return;
     const std::string nom = ChoisitLecture(*this, Lecture, BddCourante.NomFichier);
-    if (nom.empty()) return;
+    if (nom.empty() || !Abandonne()) return;
     Zone.OuvreZone(nom);
     MetTitre();
+    DitLecture();
 }
 
 void DessinWindow::RecentFiles() {
@@ -106,42 +108,54 @@ void DessinWindow::RecentFiles() {
         OublieRecent(uri);
         return;
     }
+    const bool abandon = BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    if (!Abandonne()) return;
     Zone.OuvreZone(nom);
     MetTitre();
+    if (abandon) DitAbandon();
+    DitLecture();
 }
 
 void DessinWindow::Save() {
-    if (BddCourante.Modifie) {
-        if (BddCourante.Nomme)
-            BddCourante.Enregistre();
-        else
-            SaveAs();
+    if (!BddCourante.AEnregistrer()) {
+        MetTitre();
+    } else if (BddCourante.Nomme) {
+        ApresEcriture(BddCourante.Enregistre());
+    } else {
+        SaveAs();
+        MetTitre();
     }
-    MetTitre();
 }
 
 void DessinWindow::SaveAs() {
     std::string nom;
     if (ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom) != Gtk::RESPONSE_OK) return;
-    BddCourante.EnregistreSous(nom);
-    MetTitre();
+    ApresEcriture(BddCourante.EnregistreSous(nom));
+}
+
+void DessinWindow::Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&, std::string),
+                           bool demande) {
+    if (!PeutRemplacer(demande)) return;
+    const std::string nom = ChoisitLecture(*this, genre, BddCourante.NomFichier);
+    if (nom.empty()) return;
+    const bool abandon =
+        !demande && BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    if (!Abandonne()) return;
+    Zone.Importe(importeur, nom);
+    if (abandon) DitAbandon();
+    DitLecture();
 }
 
 void DessinWindow::Dxf() {
-    if (BddCourante.Modifie) DemandeEnregistrement();
-    const std::string nom = ChoisitLecture(*this, LectureDxf, BddCourante.NomFichier);
-    if (!nom.empty()) Zone.Importe(ImporteDxf, nom);
+    Importe(LectureDxf, ImporteDxf, true);
 }
 
 void DessinWindow::Ve9() {
-    if (BddCourante.Modifie) DemandeEnregistrement();
-    const std::string nom = ChoisitLecture(*this, LectureVe9, BddCourante.NomFichier);
-    if (!nom.empty()) Zone.Importe(ImporteVe9, nom);
+    Importe(LectureVe9, ImporteVe9, true);
 }
 
 void DessinWindow::Vek() {
-    const std::string nom = ChoisitLecture(*this, LectureAncien, BddCourante.NomFichier);
-    if (!nom.empty()) Zone.Importe(ImporteVek, nom);
+    Importe(LectureAncien, ImporteVek, false);
 }
 
 void DessinWindow::ExportDxf() {
@@ -150,33 +164,32 @@ void DessinWindow::ExportDxf() {
         ExporteDxf(BddCourante, nom);
 }
 
-void DessinWindow::DemandeEnregistrement() {
+bool DessinWindow::DemandeEnregistrement() {
     QuestionEnregistrer question(*this);
-    if (question.run() != Gtk::RESPONSE_OK) return;
+    const int reponse = question.run();
+    if (reponse == Gtk::RESPONSE_NO) return true;
+    if (reponse != Gtk::RESPONSE_OK) return false;
     question.hide();
     if (BddCourante.Nomme)
         Save();
     else
         SaveAs();
+    return !BddCourante.AEnregistrer();
 }
 
 bool DessinWindow::ConfirmeFermeture() {
-    if (!BddCourante.Modifie) return true;
+    if (!BddCourante.AEnregistrer()) return true;
     std::string nom = BddCourante.NomFichier;
-    int reponse = Gtk::RESPONSE_NONE;
-    if (BddCourante.Nomme) {
-        QuestionEnregistrer question(*this);
-        question.add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
-        reponse = question.run();
-    } else {
-        reponse = ChoisitEcriture(*this, Ecriture, nom, nom, true);
-    }
+    const int reponse = BddCourante.Nomme ? QuestionEnregistrer(*this).run()
+                                          : ChoisitEcriture(*this, Ecriture, nom, nom, true);
     if (reponse == Gtk::RESPONSE_OK) {
-        BddCourante.EnregistreSous(nom);
-        MetTitre();
+        if (!ApresEcriture(BddCourante.EnregistreSous(nom))) return false;
         LaisseEcrireRecents();
+        return true;
     }
-    return reponse == Gtk::RESPONSE_OK || reponse == Gtk::RESPONSE_NO;
+    if (reponse != Gtk::RESPONSE_NO) return false;
+    Secours.Garde("Fermé sans être enregistré");
+    return true;
 }
 
 void DessinWindow::Quit() {

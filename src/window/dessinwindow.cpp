@@ -24,7 +24,9 @@ constexpr char InviteLongue[] = "Nouvelle position, appuyer sur Ctrl pour faire 
 }  // namespace
 
 DessinWindow::DessinWindow()
-    : Fenetre3D(BddCourante),
+    : Secours(BddCourante, DossierSecours()),
+      Fenetre3D(BddCourante),
+      Bord(0.0, 0.0, 1.0, 0.0),
       LabelX("XXXX"),
       LabelY("YYYY"),
       LabelAction("Action demandée"),
@@ -44,7 +46,10 @@ DessinWindow::DessinWindow()
     RangeEtat();
     BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
     AfficheCalques();
-    BoiteVerticale.pack_start(Zone, Gtk::PACK_EXPAND_WIDGET);
+    Bord.add(Messages);
+    Cadre.attach(Zone, 0, 1, 0, 1);
+    Cadre.attach(Bord, 0, 1, 0, 1);
+    BoiteVerticale.pack_start(Cadre, Gtk::PACK_EXPAND_WIDGET);
     Zone.set_size_request(-1, -1);
     modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));
 
@@ -54,9 +59,12 @@ DessinWindow::DessinWindow()
         Glib::build_filename(DossierDonnees(), "icons"));
     ConstruitMenus();
     show_all_children(true);
+    SurveilleTravail();
 }
 
-DessinWindow::~DessinWindow() = default;
+DessinWindow::~DessinWindow() {
+    LaisseTravail();
+}
 
 void DessinWindow::AffichePosition(const PointVek& p) {
     LabelX.set_text(TexteNombre(p.x));
@@ -112,6 +120,7 @@ void DessinWindow::AfficheCalques() {
 
 void DessinWindow::OuvreFichier(const std::string& nom) {
     BddCourante.Ouvre(nom);
+    DitLecture();
 }
 
 void DessinWindow::MetTitre() {

@@ -1,19 +1,25 @@
 #pragma once
 
 #include <gtkmm/actiongroup.h>
+#include <gtkmm/alignment.h>
 #include <gtkmm/box.h>
 #include <gtkmm/label.h>
 #include <gtkmm/pagesetup.h>
 #include <gtkmm/printoperation.h>
+#include <gtkmm/table.h>
 #include <gtkmm/uimanager.h>
 #include <gtkmm/window.h>
 
 #include <string>
 
+#include "model/recuperation.h"
 #include "view3d/window3d.h"
+#include "zone/bandeau.h"
 #include "zone/zonedessin.h"
 
+class BDDGeo;
 class PrintFormOperation;
+struct GenreFichier;
 
 /// The main window: menus and tool bar, the drawing area, the status row; and the commands that
 /// talk to the user in dialogs.
@@ -28,8 +34,8 @@ class DessinWindow : public Gtk::Window {
     /// The program's name and the drawing's.
     void MetTitre();
 
-    /// Asks whether to save, and saves; the command goes on whatever the answer.
-    void DemandeEnregistrement();
+    /// Asks whether to save, and saves. False: the command is given up, and the drawing stays.
+    bool DemandeEnregistrement();
 
     /// Asks whether to save a modified drawing, and saves. False: the window stays.
     bool ConfirmeFermeture();
@@ -72,7 +78,16 @@ class DessinWindow : public Gtk::Window {
     void APropos();
     void Aide();
 
+    /// Shows all copies of drawings that were not saved, and takes one back.
+    void RecupereDessin();
+
+    /// The same with what an earlier run left behind when it ended in disorder; nothing when there
+    /// is none.
+    void ProposeRecuperation();
+
     ZoneDessin Zone;
+    Recuperation Secours;
+    Bandeau Messages;
 
   protected:
     bool on_delete_event(GdkEventAny* evenement) override;
@@ -105,7 +120,38 @@ class DessinWindow : public Gtk::Window {
     void ConstruitMenus();
     void AjouteComplements();
 
+    /// From now on the work is kept while it goes on, until `LaisseTravail`.
+    void SurveilleTravail();
+    void LaisseTravail();
+    void PrevoitSecours();
+    void PasseSecours();
+
+    /// Says, once, that no copy can be kept; errno says why.
+    void DitSansSecours();
+
+    /// After a drawing was written, or not, errno saying why: shows and says it. Answers ecrit.
+    bool ApresEcriture(bool ecrit);
+
+    /// Whether the drawing may be replaced; where demande is true the user is asked about what is
+    /// not saved.
+    bool PeutRemplacer(bool demande);
+
+    /// The drawing is about to be replaced: keeps a copy of what is not saved. False when it is not
+    /// to be replaced after all.
+    bool Abandonne();
+    void DitAbandon();
+
+    void Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&, std::string), bool demande);
+
+    /// Says what the reading of a file has left out.
+    void DitLecture();
+    void Reprend(const CopieSecours& copie);
+
     Window3D Fenetre3D;
+    Gtk::Table Cadre;     ///< The drawing area with the strip over its upper edge.
+    Gtk::Alignment Bord;  ///< Of the strip.
+    bool SecoursPrevu = false;
+    bool SansSecoursDit = false;
     Gtk::VBox BoiteVerticale;
     Gtk::VBox BoiteMenu;
     Gtk::HBox BoiteEtat;

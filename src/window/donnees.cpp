@@ -1,5 +1,7 @@
 #include "window/donnees.h"
 
+#include <glibmm/miscutils.h>
+
 #include <filesystem>
 #include <vector>
 
@@ -27,4 +29,8 @@ fs::path Cherche() {
 const std::string& DossierDonnees() {
     static const std::string dossier = Cherche().string();
     return dossier;
+}
+
+std::string DossierSecours() {
+    return Glib::build_filename(Glib::get_user_data_dir(), "krvek", "recuperation");
 }

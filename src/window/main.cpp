@@ -1,4 +1,6 @@
+#include <glibmm/convert.h>
 #include <glibmm/exceptionhandler.h>
+#include <glibmm/main.h>
 #include <gtkmm/main.h>
 
 #include <cstdlib>
@@ -20,6 +22,16 @@ void DitException() {
     }
 }
 
+/// The file that an argument means: a name, or an address of the local disk.
+std::string NomDeFichier(const std::string& mot) {
+    if (mot.compare(0, 7, "file://") != 0) return mot;
+    try {
+        return Glib::filename_from_uri(mot);
+    } catch (const Glib::ConvertError&) {
+        return mot;
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -28,7 +40,9 @@ int main(int argc, char** argv) {
     Gtk::Main boucle(argc, argv, true);
     Glib::add_exception_handler(&DitException);
     DessinWindow fenetre;
-    if (argc > 1) fenetre.OuvreFichier(argv[1]);
+    if (argc > 1) fenetre.OuvreFichier(NomDeFichier(argv[1]));
+    // Once the window is there.
+    Glib::signal_idle().connect_once(sigc::mem_fun(fenetre, &DessinWindow::ProposeRecuperation));
     Gtk::Main::run(fenetre);
     return 0;
 }

@@ -36,6 +36,8 @@ void DessinWindow::ConstruitMenus() {
     add_accel_group(GestionnaireUI->get_accel_group());
     GestionnaireUI->add_ui_from_string(DefinitionMenus());
     AjouteComplements();
+    GestionnaireUI->signal_post_activate().connect(
+        sigc::hide(sigc::mem_fun(Messages, &Bandeau::CompteCommande)));
 
     Gtk::Widget* menu = GestionnaireUI->get_widget("/MenuBar");
     menu->modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#FFFFEA"));

@@ -57,6 +57,7 @@ void ZoneDessin::OuvreZone(const std::string& nom) {
 
 void ZoneDessin::Importe(void (*importeur)(BDDGeo&, std::string), const std::string& nom) {
     importeur(BddCourante, nom);
+    BddCourante.Original = nom;
     Outils.Recommence();
 }
 

@@ -184,7 +184,7 @@ TEST(Fichiers, ImporterDemandeUnAutreNom) {
     bureau.Choisit("Vek");
     EXPECT_EQ(BddCourante.Elements.Nombre(), 8);
     EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
-    RepondDialogue(Gtk::RESPONSE_CANCEL, [&ve9](Gtk::Dialog& dialogue) {
+    RepondDialogue(Gtk::RESPONSE_NO, [&ve9](Gtk::Dialog& dialogue) {
         EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
         RepondFichier(ve9);
     });
@@ -209,7 +209,7 @@ TEST(Fichiers, DxfAllerEtRetour) {
     EXPECT_EQ(BddCourante.NomFichier, "");
     EXPECT_NE(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
     // The import asks about what is not saved.
-    RepondDialogue(Gtk::RESPONSE_CANCEL, [&nom](Gtk::Dialog& dialogue) {
+    RepondDialogue(Gtk::RESPONSE_NO, [&nom](Gtk::Dialog& dialogue) {
         EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
         RepondFichier(nom + ".dxf");
     });

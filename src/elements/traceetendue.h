@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+#include "elements/trace.h"
+
+/// Paints nothing: finds how far what is painted reaches, in the view's pixels. Of an endless line
+/// one point counts.
+class TraceEtendue : public Trace {
+  public:
+    TraceEtendue();
+
+    /// The box that holds all; none when nothing was painted.
+    const std::optional<Boite>& Etendue() const { return Tout; }
+
+    bool SurPapier() const override { return true; }
+    void AppliqueTrait(const Trait&, Matiere) override {}
+    void Compose(const Boite& boite, const std::function<void(Trace&)>& dessine) override;
+    void Segment(const PointVek& a, const PointVek& b) override;
+    void Droite(const PointVek& p, const PointVek& d) override;
+    void Arc(ArcEcran arc, bool plein) override;
+    void Polygone(const std::vector<LienEcran>& liens) override;
+    void Rectangle(const PointVek& coin, double largeur, double hauteur, bool plein) override;
+    void Poignee(const PointVek&) override {}
+    void Croix(const PointVek& centre, double bras) override;
+    void Texte(const TexteEcran& texte, const Gdk::Color& couleur) override;
+
+  private:
+    void Atteint(const PointVek& p);
+    void AtteintRond(const PointVek& centre, double rayon);
+
+    std::optional<Boite> Tout;
+};

@@ -1,0 +1,155 @@
+// What keeps the work: the net, what is said when something could not be written or read, and what
+// happens before a drawing is replaced.
+
+#include <glib-unix.h>
+#include <glibmm/main.h>
+#include <gtkmm/main.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+
+#include "dialogs/raisons.h"
+#include "model/bddgeo.h"
+#include "window/dessinwindow.h"
+#include "window/recuperationdialog.h"
+
+namespace {
+
+/// The net of the window that stands, for what ends the program from outside; null for none.
+Recuperation* SecoursEnCours = nullptr;
+
+void GardeAvantLaFin() {
+    if (SecoursEnCours) SecoursEnCours->Ecrit("Arrêt du programme");
+    SecoursEnCours = nullptr;
+}
+
+/// The user data is the number of the signal, which then does what it does by itself.
+gboolean Termine(gpointer donnees) {
+    GardeAvantLaFin();
+    const int signal = GPOINTER_TO_INT(donnees);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+    return FALSE;
+}
+
+/// Once for the program. The toolkit leaves by `exit` when the display is lost.
+void PrepareFin() {
+    static const bool faite = [] {
+        for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+            g_unix_signal_add(signal, &Termine, GINT_TO_POINTER(signal));
+        return std::atexit(&GardeAvantLaFin) == 0;
+    }();
+    static_cast<void>(faite);
+}
+
+}  // namespace
+
+void DessinWindow::SurveilleTravail() {
+    SecoursEnCours = &Secours;
+    PrepareFin();
+    BddCourante.SignalChangement().connect(sigc::mem_fun(*this, &DessinWindow::PrevoitSecours));
+    // A change that came too soon after a copy is kept by a later motion.
+    Zone.Souris.SignalPosition().connect(
+        sigc::hide(sigc::mem_fun(*this, &DessinWindow::PasseSecours)));
+}
+
+void DessinWindow::LaisseTravail() {
+    Secours.Oublie();
+    SecoursEnCours = nullptr;
+}
+
+void DessinWindow::PrevoitSecours() {
+    if (SecoursPrevu) return;
+    SecoursPrevu = true;
+    // Behind the event that made the change, which may go on.
+    Glib::signal_idle().connect_once(
+        [this] {
+            SecoursPrevu = false;
+            PasseSecours();
+        },
+        Glib::PRIORITY_HIGH_IDLE);
+}
+
+void DessinWindow::PasseSecours() {
+    if (!Secours.Passe()) DitSansSecours();
+}
+
+void DessinWindow::DitSansSecours() {
+    if (SansSecoursDit) return;
+    SansSecoursDit = true;
+    const Glib::ustring raison = Raison(errno);
+    Messages.Dit("Aucune copie de secours ne peut être gardée" +
+                 (raison.empty() ? "." : " : " + raison + ".") +
+                 " Enregistrez souvent votre travail.");
+}
+
+bool DessinWindow::ApresEcriture(bool ecrit) {
+    const int erreur = errno;
+    MetTitre();
+    if (ecrit) {
+        Secours.Oublie();
+        return true;
+    }
+    const Glib::ustring raison = Raison(erreur);
+    const bool garde = Secours.Ecrit("Enregistrement impossible");
+    Messages.Dit(EntreGuillemets(BddCourante.NomFichier) + " n'a pas pu être écrit" +
+                     (raison.empty() ? ". " : " : " + raison + ". ") +
+                     (garde ? "Une copie est gardée." : "Aucune copie n'a pu être gardée."),
+                 {{"Enregistrer sous…", sigc::mem_fun(*this, &DessinWindow::SaveAs)},
+                  {"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}});
+    return false;
+}
+
+bool DessinWindow::PeutRemplacer(bool demande) {
+    if (!BddCourante.AEnregistrer()) return true;
+    return !demande || DemandeEnregistrement();
+}
+
+bool DessinWindow::Abandonne() {
+    const bool perdu = BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    if (perdu && !Secours.Garde("Remplacé sans être enregistré")) {
+        DitSansSecours();
+        // Without a net nothing is let go unasked.
+        if (!DemandeEnregistrement()) return false;
+    }
+    Secours.Oublie();
+    return true;
+}
+
+void DessinWindow::DitAbandon() {
+    Messages.Dit("Le dessin d'avant n'était pas enregistré : une copie est gardée.",
+                 {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}});
+}
+
+void DessinWindow::RecupereDessin() {
+    // What this very drawing has not saved is in the list too.
+    Secours.Ecrit("Travail en cours");
+    RecuperationDialog dialogue(*this, Secours.Gardees());
+    if (const auto copie = dialogue.Demande()) {
+        dialogue.hide();
+        Reprend(*copie);
+    }
+}
+
+void DessinWindow::ProposeRecuperation() {
+    const std::vector<CopieSecours> copies = Secours.Orphelines();
+    if (copies.empty()) return;
+    {
+        RecuperationDialog dialogue(*this, copies);
+        if (const auto copie = dialogue.Demande()) {
+            dialogue.hide();
+            Reprend(*copie);
+        }
+    }
+    Secours.RangeOrphelines();
+}
+
+void DessinWindow::Reprend(const CopieSecours& copie) {
+    const std::string texte = Recuperation::Texte(copie);
+    if (!PeutRemplacer(true) || !Abandonne()) return;
+    BddCourante.Recupere(texte, copie.Nom);
+    Zone.Outils.Recommence();
+    MetTitre();
+    Secours.Ecrit("Travail en cours");
+}

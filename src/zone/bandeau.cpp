@@ -1,0 +1,66 @@
+#include "zone/bandeau.h"
+
+#include <gtkmm/buttonbox.h>
+
+namespace {
+
+/// Keys go to the drawing.
+void RetireFocus(Gtk::Widget& bouton) {
+    bouton.set_can_focus(false);
+}
+
+}  // namespace
+
+Bandeau::Bandeau() {
+    Libelle.set_line_wrap(true);
+    Libelle.set_alignment(Gtk::ALIGN_LEFT);
+    auto* contenu = dynamic_cast<Gtk::Container*>(Barre.get_content_area());
+    contenu->add(Libelle);
+    Barre.set_message_type(Gtk::MESSAGE_INFO);
+    Barre.signal_response().connect(sigc::mem_fun(*this, &Bandeau::Repond));
+    add(Barre);
+    add_events(Gdk::BUTTON_PRESS_MASK);
+    show_all_children();
+    set_no_show_all(true);
+}
+
+void Bandeau::Dit(const Glib::ustring& texte, std::vector<Issue> issues) {
+    Issues = std::move(issues);
+    Commandes = 0;
+    Libelle.set_text(texte);
+    auto& boutons = dynamic_cast<Gtk::Container&>(*Barre.get_action_area());
+    for (Gtk::Widget* bouton : boutons.get_children())
+        boutons.remove(*bouton);
+    int rang = 0;
+    for (const Issue& issue : Issues)
+        Barre.add_button(issue.Libelle, rang++);
+    boutons.foreach (sigc::ptr_fun(&RetireFocus));
+    show();
+    // Over the drawing, whichever of the two was shown last.
+    if (const auto fenetre = get_window()) fenetre->raise();
+}
+
+Glib::ustring Bandeau::Texte() const {
+    return get_visible() ? Libelle.get_text() : Glib::ustring();
+}
+
+void Bandeau::CompteCommande() {
+    if (get_visible() && ++Commandes >= CommandesMax) Cache();
+}
+
+bool Bandeau::on_button_press_event(GdkEventButton*) {
+    Cache();
+    return true;
+}
+
+void Bandeau::Repond(int reponse) {
+    if (reponse < 0 || reponse >= static_cast<int>(Issues.size())) return;
+    const sigc::slot<void> effet = Issues[static_cast<std::size_t>(reponse)].Effet;
+    Cache();
+    effet();
+}
+
+void Bandeau::Cache() {
+    hide();
+    Issues.clear();
+}

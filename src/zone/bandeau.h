@@ -1,0 +1,46 @@
+#pragma once
+
+#include <glibmm/ustring.h>
+#include <gtkmm/eventbox.h>
+#include <gtkmm/infobar.h>
+#include <gtkmm/label.h>
+
+#include <string>
+#include <vector>
+
+/// The strip over the upper edge of the drawing area, for what must be said. It lies over the
+/// picture, which stays where it is; it never takes the focus and never blocks. A click on it or
+/// `CommandesMax` further commands let it go.
+class Bandeau : public Gtk::EventBox {
+  public:
+    static constexpr int CommandesMax = 10;
+
+    /// A way out of what is said, as a button.
+    struct Issue {
+        Glib::ustring Libelle;
+        sigc::slot<void> Effet;
+    };
+
+    Bandeau();
+
+    /// Says it in place of what was said before.
+    void Dit(const Glib::ustring& texte, std::vector<Issue> issues = {});
+
+    /// What is said; empty when nothing is.
+    Glib::ustring Texte() const;
+
+    /// A command has been given.
+    void CompteCommande();
+
+  protected:
+    bool on_button_press_event(GdkEventButton* evenement) override;
+
+  private:
+    void Repond(int reponse);
+    void Cache();
+
+    Gtk::InfoBar Barre;
+    Gtk::Label Libelle;
+    std::vector<Issue> Issues;
+    int Commandes = 0;
+};
