@@ -11,6 +11,13 @@
 /// Name of the action behind an entry of the menus; empty when there is none.
 std::string NomAction(Gtk::MenuItem& entree);
 
+/// A new folder.
+std::string DossierProvisoire();
+
+/// Answers the next chooser with a file name, once it has taken it: it reads folders in its own
+/// time.
+void RepondFichier(const std::string& nom);
+
 /// The whole program on an empty drawing, with its menus within reach.
 class Bureau {
   public:

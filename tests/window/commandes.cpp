@@ -25,40 +25,12 @@
 namespace {
 
 const std::string& Dossier() {
-    static const std::string dossier = [] {
-        char modele[] = "/tmp/krvek-fichiers-XXXXXX";
-        return std::string(g_mkdtemp(modele));
-    }();
+    static const std::string dossier = DossierProvisoire();
     return dossier;
 }
 
 void AjouteSegment() {
     BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
-}
-
-/// Answers the next chooser with a file name, once it has taken it: it reads folders in its own
-/// time.
-void RepondFichier(const std::string& nom) {
-    Glib::signal_timeout().connect(
-        [nom] {
-            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-                auto* dialogue = dynamic_cast<Gtk::FileChooserDialog*>(fenetre);
-                if (!dialogue || !dialogue->get_mapped()) continue;
-                Gtk::FileChooser& choix = *dialogue;
-                if (choix.get_filename() == nom) {
-                    dialogue->response(Gtk::RESPONSE_OK);
-                    return false;
-                }
-                if (choix.get_action() == Gtk::FILE_CHOOSER_ACTION_SAVE) {
-                    choix.set_current_folder(g_path_get_dirname(nom.c_str()));
-                    choix.set_current_name(g_path_get_basename(nom.c_str()));
-                } else {
-                    choix.set_filename(nom);
-                }
-            }
-            return true;
-        },
-        100);
 }
 
 /// Answers the next style dialog after typing the line width.
