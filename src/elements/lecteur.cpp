@@ -103,6 +103,10 @@ char Lecteur::Caractere() {
     return *Position++;
 }
 
+bool Lecteur::ResteTexte() const {
+    return !std::all_of(Position, Borne, EstBlanc);
+}
+
 void Lecteur::RefuseVersion(std::string_view mot) {
     if (!Refusee) Refusee = std::string(mot);
 }

@@ -56,6 +56,14 @@ class Lecteur {
 
     const std::optional<std::string>& VersionRefusee() const { return Refusee; }
 
+    /// Notes that something in a frame within the text is missing or left out.
+    void NoteManque() { Manque_ = true; }
+
+    bool Manque() const { return Manque_; }
+
+    /// Whether anything but blanks is still to be read.
+    bool ResteTexte() const;
+
   private:
     template <class T>
     Lecteur& Nombre(T& valeur);
@@ -65,6 +73,7 @@ class Lecteur {
     const char* Borne;
     bool EnEchec = false;
     bool AuBout = false;
+    bool Manque_ = false;
     int Profondeur = 0;
     std::optional<std::string> Refusee;
 };

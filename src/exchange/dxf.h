@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/bilanlecture.h"
+
 class BDDGeo;
 class BDDGeoBase;
 
@@ -16,8 +18,9 @@ std::string EcritDxf(const BDDGeoBase& bdd);
 /// Writes that text to a file, silently. The drawing, its name and `Modifie` stay as they are.
 void ExporteDxf(const BDDGeoBase& bdd, const std::string& nom);
 
-/// Appends the elements of a DXF text to the target. What is not understood is skipped.
-void LitDxf(std::string_view texte, BDDGeoBase& cible);
+/// Appends the elements of a DXF text to the target. What is not understood is skipped, and counted
+/// by the names of its entities where it would show.
+BilanLecture LitDxf(std::string_view texte, BDDGeoBase& cible);
 
 /// Replaces the drawing by that of a DXF file, silently: what cannot be read leaves an empty or
 /// partly read one. It bears the file's name, but the next save asks for another.

@@ -21,11 +21,20 @@ class LectureDxf {
   public:
     LectureDxf(std::string_view texte, BDDGeoBase& cible) : Paires(texte), Cible(cible) {}
 
-    void Lit();
+    BilanLecture Lit();
 
   private:
     void Prend();
     void PrendHorsPolyligne();
+
+    /// Follows the sections and the blocks.
+    void Situe();
+
+    /// Counts an entity of that name as left out, where entities show.
+    void Laisse(std::string_view genre);
+
+    /// Whether the entity shows nothing of its own, wherever it stands.
+    bool EstInvisible() const;
 
     /// Gives the style of the entity to an element that will stand in the drawing itself.
     void Habille(EltGeo& elt) const;
@@ -33,8 +42,9 @@ class LectureDxf {
     void OuvreGroupe();
     void FermeGroupe();
 
-    /// Adds the element to the innermost open group, else to the drawing, unless it is not finite.
-    void Range(std::unique_ptr<EltGeo> elt);
+    /// Adds the element, made of entities of that name, to the innermost open group, else to the
+    /// drawing, unless it is not finite.
+    void Range(std::unique_ptr<EltGeo> elt, std::string_view genre);
 
     PairesDxf Paires;
     BDDGeoBase& Cible;
@@ -42,9 +52,15 @@ class LectureDxf {
     std::vector<std::unique_ptr<EltBDD>> Groupes;  ///< Open ones, the innermost last.
     std::size_t TropProfonds = 0;                  ///< Open ones that are not kept.
     std::unique_ptr<EltProfil> Polyligne;          ///< One that waits for its vertices.
+
+    BilanLecture Bilan;
+    bool Structure = false;   ///< Some section has begun.
+    bool EnDessin = true;     ///< Among entities that show. A text without sections has no others.
+    bool EnBlocCote = false;  ///< In the picture of a dimension, which comes in by itself.
+    bool Fini = false;        ///< The end mark of the file has come.
 };
 
-void LectureDxf::Lit() {
+BilanLecture LectureDxf::Lit() {
     bool suite = false;
     while (!suite && Paires.Suivante())
         suite = Paires.Code() == 0;
@@ -52,8 +68,13 @@ void LectureDxf::Lit() {
         suite = Entite.Lit(Paires);
         Prend();
     }
+    if (Polyligne) Laisse("POLYLINE");
     while (!Groupes.empty())
         FermeGroupe();
+    if (!Structure && !Fini && Bilan.Lus == 0)
+        return BilanLecture::Refus(BilanLecture::PasUnDessin);
+    Bilan.Entier = Fini;
+    return std::move(Bilan);
 }
 
 void LectureDxf::Prend() {
@@ -65,8 +86,39 @@ void LectureDxf::Prend() {
     // Without its end mark, or without vertices, it is dropped.
     auto polyligne = std::move(Polyligne);
     if (polyligne && Entite.Genre == "SEQEND" && !polyligne->Sommets.empty())
-        Range(std::move(polyligne));
+        Range(std::move(polyligne), "POLYLINE");
+    else if (polyligne)
+        Laisse("POLYLINE");
+    Situe();
     PrendHorsPolyligne();
+}
+
+void LectureDxf::Situe() {
+    if (Entite.Genre == "SECTION") {
+        Structure = true;
+        EnDessin = Entite.Nom == "ENTITIES" || Entite.Nom == "BLOCKS";
+        EnBlocCote = false;
+    } else if (Entite.Genre == "ENDSEC") {
+        EnDessin = false;
+    } else if (Entite.Genre == "EOF") {
+        Fini = true;
+    } else if (Entite.Genre == "BLOCK") {
+        EnBlocCote = Entite.Nom.substr(0, 2) == "*D";
+    } else if (Entite.Genre == "ENDBLK") {
+        EnBlocCote = false;
+    }
+}
+
+void LectureDxf::Laisse(std::string_view genre) {
+    if (EnDessin && !EnBlocCote) Bilan.Laisse(genre);
+}
+
+bool LectureDxf::EstInvisible() const {
+    for (const char* cadre : {"SECTION", "ENDSEC", "EOF", "VERTEX", "SEQEND", "VIEWPORT"})
+        if (Entite.Genre == cadre) return true;
+    // What a block asks of its inserts, and what these answer without showing it.
+    return (Entite.Genre == "ATTDEF" && !Groupes.empty()) ||
+           (Entite.Genre == "ATTRIB" && (Entite.Drapeaux & 1) != 0);
 }
 
 void LectureDxf::PrendHorsPolyligne() {
@@ -79,7 +131,9 @@ void LectureDxf::PrendHorsPolyligne() {
         Habille(*Polyligne);
     } else if (auto elt = CreeElement(Entite)) {
         Habille(*elt);
-        Range(std::move(elt));
+        Range(std::move(elt), Entite.Genre);
+    } else if (!EstInvisible()) {
+        Laisse(Entite.Genre);
     }
 }
 
@@ -90,6 +144,7 @@ void LectureDxf::Habille(EltGeo& elt) const {
 void LectureDxf::OuvreGroupe() {
     if (Groupes.size() == ProfondeurMax) {
         ++TropProfonds;
+        Laisse(Entite.Genre);
         return;
     }
     auto groupe = CreeGroupe(Entite);
@@ -103,30 +158,34 @@ void LectureDxf::FermeGroupe() {
     } else if (!Groupes.empty()) {
         auto groupe = std::move(Groupes.back());
         Groupes.pop_back();
-        Range(std::move(groupe));
+        Range(std::move(groupe), "BLOCK");
     }
 }
 
-void LectureDxf::Range(std::unique_ptr<EltGeo> elt) {
-    if (!elt->EstFini()) return;
-    if (Groupes.empty())
+void LectureDxf::Range(std::unique_ptr<EltGeo> elt, std::string_view genre) {
+    if (!elt->EstFini()) {
+        Laisse(genre);
+    } else if (Groupes.empty()) {
         Cible.AjouteFin(std::move(elt));
-    else
+        ++Bilan.Lus;
+    } else {
         Groupes.back()->Contenu.AjouteDebut(std::move(elt));
+    }
 }
 
 }  // namespace
 
-void LitDxf(std::string_view texte, BDDGeoBase& cible) {
-    LectureDxf(texte, cible).Lit();
+BilanLecture LitDxf(std::string_view texte, BDDGeoBase& cible) {
+    return LectureDxf(texte, cible).Lit();
 }
 
 void ImporteDxf(BDDGeo& bdd, std::string nom) {
     std::string texte;
-    LitFichier(nom, texte);
+    const BilanLecture::Etat etat = LitFichierOuDit(nom, texte);
     bdd.Vide();
     bdd.NomFichier = std::move(nom);
-    LitDxf(texte, bdd);
+    bdd.Lecture = LitDxf(texte, bdd);
+    if (etat != BilanLecture::Lu) bdd.Lecture = BilanLecture::Refus(etat);
     // No file of the program's own format holds it.
     bdd.Modifie = bdd.Elements.Nombre() > 0;
 }

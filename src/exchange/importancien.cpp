@@ -22,30 +22,28 @@ std::string TexteVe9(const std::string& octets) {
     return texte;
 }
 
-void Remplace(BDDGeo& bdd, std::string nom, std::string texte) {
+void Remplace(BDDGeo& bdd, std::string nom, std::string texte, BilanLecture::Etat etat) {
     // Some systems end a line with a return alone.
     if (texte.find('\n') == std::string::npos) std::replace(texte.begin(), texte.end(), '\r', '\n');
     bdd.Vide();
     bdd.NomFichier = std::move(nom);
-    LecteurAncien(texte).Lit(bdd);
+    LecteurAncien lecteur(texte);
+    lecteur.Lit(bdd);
+    bdd.Lecture = etat == BilanLecture::Lu ? lecteur.Bilan() : BilanLecture::Refus(etat);
     // No file of the present format holds it.
     bdd.Modifie = bdd.Elements.Nombre() > 0;
-}
-
-/// Empty when the file cannot be read.
-std::string ContenuFichier(const std::string& nom) {
-    std::string contenu;
-    return LitFichier(nom, contenu) ? contenu : std::string();
 }
 
 }  // namespace
 
 void ImporteVek(BDDGeo& bdd, std::string nom) {
-    std::string texte = ContenuFichier(nom);
-    Remplace(bdd, std::move(nom), std::move(texte));
+    std::string texte;
+    const BilanLecture::Etat etat = LitFichierOuDit(nom, texte);
+    Remplace(bdd, std::move(nom), std::move(texte), etat);
 }
 
 void ImporteVe9(BDDGeo& bdd, std::string nom) {
-    std::string texte = TexteVe9(ContenuFichier(nom));
-    Remplace(bdd, std::move(nom), std::move(texte));
+    std::string octets;
+    const BilanLecture::Etat etat = LitFichierOuDit(nom, octets);
+    Remplace(bdd, std::move(nom), TexteVe9(octets), etat);
 }

@@ -27,34 +27,71 @@ constexpr Glib::ustring::size_type LongueurLigne = 512;
 /// Closes a section in the place of a record's marker.
 constexpr int FinSection = -1;
 
+constexpr char SectionsNonLues[] = "sections non lues";
+
 }  // namespace
 
 bool LecteurAncien::Lit(BDDGeoBase& cible) {
+    Bilan_.Entier = LitSections(cible);
+    return Bilan_.Entier;
+}
+
+bool LecteurAncien::LitSections(BDDGeoBase& cible) {
     // The fourth section never had records that could be read.
     static constexpr std::array<GenreSection, 5> genres = {
         &LecteurAncien::LitPoint, &LecteurAncien::LitSegment, &LecteurAncien::LitArc, nullptr,
         &LecteurAncien::LitAnnotation};
     const int nombre = NombreSections(Entree.Ligne());
-    if (nombre == 0) return false;
+    if (nombre == 0) {
+        Bilan_.Fichier = BilanLecture::PasUnDessin;
+        return false;
+    }
     // The view of the former program says nothing to this one.
     PointVek origine;
     double echelle = 0.0;
     Entree >> origine >> echelle;
     for (int rang = 0; rang < nombre; ++rang)
         if (!LitSection(genres[static_cast<std::size_t>(rang)], cible)) return false;
+    // The dimensions behind the sections that the version has.
+    if (nombre < static_cast<int>(genres.size()) && Entree.ResteTexte())
+        Bilan_.Laisse(SectionsNonLues);
     return true;
 }
 
 bool LecteurAncien::LitSection(GenreSection genre, BDDGeoBase& cible) {
-    for (;;) {
+    for (bool premier = true;; premier = false) {
         int marqueur = FinSection;
         Entree >> marqueur;
         if (Entree.Echec()) return false;
         if (marqueur == FinSection) return true;
-        if (!genre) continue;
+        if (!genre) {
+            if (premier) Bilan_.Laisse(SectionsNonLues);
+            continue;
+        }
         Element elt = (this->*genre)();
         if (Entree.Echec()) return false;
-        if (elt && elt->EstValide()) cible.AjouteFin(std::move(elt));
+        if (!elt) continue;
+        if (elt->EstValide()) {
+            cible.AjouteFin(std::move(elt));
+            ++Bilan_.Lus;
+        } else {
+            Laisse(*elt);
+        }
+    }
+}
+
+void LecteurAncien::Laisse(const EltGeo& elt) {
+    switch (elt.Type) {
+        case TypePoint:
+            return Bilan_.Laisse("points");
+        case TypeSegment:
+            return Bilan_.Laisse("segments de longueur nulle");
+        case TypeArc:
+            return Bilan_.Laisse("arcs de rayon nul ou négatif");
+        case TypeTxt:
+            return Bilan_.Laisse("textes");
+        default:
+            return Bilan_.Laisse("cotes de mesure nulle");
     }
 }
 
@@ -85,10 +122,14 @@ LecteurAncien::Element LecteurAncien::LitAnnotation() {
     Entree >> sansElement;
     if (sansElement) {
         SauteEntiers(1);
+        if (!Entree.Echec()) Bilan_.Laisse("cotes sans contenu");
         return nullptr;
     }
     auto elt = LitContenu(numero);
-    if (!elt) return nullptr;
+    if (!elt) {
+        Bilan_.Laisse("cotes de genre inconnu");
+        return nullptr;
+    }
     elt->SetTexte(texte);
     elt->Police = police;
     elt->SetTaille(std::abs(tete.Mesure));

@@ -22,6 +22,9 @@ class LecteurAncien {
     /// or becomes unreadable before its last section does; the elements read until then stay.
     bool Lit(BDDGeoBase& cible);
 
+    /// What that made of the text.
+    const BilanLecture& Bilan() const { return Bilan_; }
+
   private:
     using Element = std::unique_ptr<EltGeo>;
 
@@ -34,8 +37,13 @@ class LecteurAncien {
         PointVek Position;
     };
 
+    bool LitSections(BDDGeoBase& cible);
+
     /// Reads records up to the marker that ends the section; without a kind, the markers alone.
     bool LitSection(GenreSection genre, BDDGeoBase& cible);
+
+    /// Counts an element that is not valid by its kind.
+    void Laisse(const EltGeo& elt);
 
     Element LitPoint();
     Element LitSegment();
@@ -58,4 +66,5 @@ class LecteurAncien {
     void SauteEntiers(int nombre);
 
     Lecteur Entree;
+    BilanLecture Bilan_;
 };

@@ -40,6 +40,7 @@ void BDDGeo::Vide() {
     NomFichier.clear();
     Original.clear();
     NbEcrits = ++NbChangements;
+    Lecture = {};
 }
 
 void BDDGeo::Dessine(Trace& trace) const {
@@ -333,13 +334,22 @@ void BDDGeo::ChangeTraitZone(const EltRectangle& zone, const Trait& trait) {
     if (change) NoteChangement();
 }
 
+namespace {
+
+/// How a drawing of the present format begins.
+const std::string VersionPresente = "VERSION3.3";
+
+}  // namespace
+
 void BDDGeo::Ouvre(std::string nom) {
     std::string texte;
-    const bool lu = LitFichier(nom, texte);
+    const BilanLecture::Etat etat = LitFichierOuDit(nom, texte);
     Vide();
     NomFichier = std::move(nom);
     Nomme = true;
-    if (lu) LitTexte(texte);
+    Lecture = etat == BilanLecture::Lu ? LitTexte(texte) : BilanLecture::Refus(etat);
+    const bool present = texte.compare(0, VersionPresente.size(), VersionPresente) == 0;
+    if (!present || !Lecture.RienPerdu()) Original = NomFichier;
 }
 
 void BDDGeo::Recupere(std::string_view texte, std::string nom) {

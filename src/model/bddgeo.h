@@ -8,7 +8,6 @@
 #include "model/annulation.h"
 #include "model/bddgeobase.h"
 #include "model/bddgeoclipboard.h"
-#include "model/bilanlecture.h"
 #include "model/tablerecherche.h"
 
 class EltBDD;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "elements/eltgeo.h"
+#include "model/bilanlecture.h"
 
 /// An ordered list of elements, which it owns: the head is painted first and lies underneath.
 class BDDGeoBase {
@@ -27,7 +28,7 @@ class BDDGeoBase {
     virtual void Dessine(Trace& trace) const;
 
     /// Reads a drawing's text and appends its elements. What could be read before a fault stays.
-    void Charge(Lecteur& entree);
+    BilanLecture Charge(Lecteur& entree);
 
     /// Replaces the content by that of the text.
     void ChargeTexte(std::string_view texte);
@@ -56,14 +57,16 @@ class BDDGeoBase {
 
     /// Reads a drawing's text behind what is there; says so to the user, once, when a version in it
     /// is not one that can be read.
-    void LitTexte(std::string_view texte);
+    BilanLecture LitTexte(std::string_view texte);
 
   private:
     /// Links from parent to child, by their ranks in the list.
     using LiensFils = std::vector<std::pair<int, int>>;
 
-    void ChargeFils(Lecteur& entree, LiensFils& liens) const;
-    void RelieFils(const LiensFils& liens);
+    /// False when the table ends before its end mark.
+    bool ChargeFils(Lecteur& entree, LiensFils& liens, BilanLecture& bilan) const;
+    /// How many links could not be made, since they close a loop.
+    int RelieFils(const LiensFils& liens);
     void SauveFils(Ecrivain& sortie) const;
 
     int CalqueAffiche_ = -1;

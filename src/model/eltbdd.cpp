@@ -14,6 +14,7 @@
 namespace {
 
 constexpr char NomDefaut[] = "defaut";
+constexpr char MotFin[] = "FinEltBDD";
 
 /// Groups inside groups beyond this depth are no drawing of anyone's.
 constexpr int ProfondeurMax = 100;
@@ -91,7 +92,7 @@ void EltBDD::Sauve(Ecrivain& sortie) const {
     EltGeo::Sauve(sortie);
     sortie << Identificateur.raw() << '\n';
     Contenu.Ecrit(sortie);
-    sortie << "FinEltBDD\n";
+    sortie << MotFin << '\n';
 }
 
 void EltBDD::Charge(Lecteur& entree) {
@@ -99,8 +100,8 @@ void EltBDD::Charge(Lecteur& entree) {
     const std::string_view nom = entree.Mot();
     if (!entree.Echec()) Identificateur = EnUtf8(nom);
     const Lecteur::Niveau niveau(entree, ProfondeurMax);
-    Contenu.Charge(entree);
-    entree.Mot();
+    const bool entier = Contenu.Charge(entree).RienPerdu();
+    if (entree.Mot() != MotFin || !entier) entree.NoteManque();
 }
 
 void EltBDD::Ouvre(const std::string& nom) {

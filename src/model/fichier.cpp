@@ -90,6 +90,20 @@ std::string SansLien(std::string chemin) {
     return chemin;
 }
 
+/// Why a file could not be opened.
+BilanLecture::Etat Raison(int erreur) {
+    switch (erreur) {
+        case ENOENT:
+        case ENOTDIR:
+            return BilanLecture::Absent;
+        case EACCES:
+        case EPERM:
+            return BilanLecture::SansDroit;
+        default:
+            return BilanLecture::Illisible;
+    }
+}
+
 enum class Issue { Ecrit, Echec, Impossible };
 
 Issue EcritACote(const std::string& chemin, std::string_view contenu) {
@@ -125,15 +139,21 @@ Issue EcritACote(const std::string& chemin, std::string_view contenu) {
 }  // namespace
 
 bool LitFichier(const std::string& chemin, std::string& contenu) {
+    return LitFichierOuDit(chemin, contenu) == BilanLecture::Lu;
+}
+
+BilanLecture::Etat LitFichierOuDit(const std::string& chemin, std::string& contenu) {
     // Without blocking, or a pipe that nobody feeds would never open.
     Descripteur fichier(open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!fichier.Ouvert()) return Raison(errno);
     struct stat etat = {};
-    if (!fichier.Ouvert() || fstat(*fichier, &etat) != 0 || !S_ISREG(etat.st_mode)) return false;
-    if (etat.st_size > TailleMax) return false;
+    if (fstat(*fichier, &etat) != 0) return BilanLecture::Illisible;
+    if (S_ISDIR(etat.st_mode)) return BilanLecture::Dossier;
+    if (!S_ISREG(etat.st_mode) || etat.st_size > TailleMax) return BilanLecture::Illisible;
     try {
         contenu.resize(static_cast<std::size_t>(etat.st_size));
     } catch (const std::bad_alloc&) {
-        return false;
+        return BilanLecture::Illisible;
     }
     std::size_t lu = 0;
     while (lu < contenu.size()) {
@@ -143,7 +163,7 @@ bool LitFichier(const std::string& chemin, std::string& contenu) {
         lu += static_cast<std::size_t>(n);
     }
     contenu.resize(lu);
-    return true;
+    return BilanLecture::Lu;
 }
 
 bool EcritFichier(const std::string& chemin, std::string_view contenu) {

@@ -3,8 +3,13 @@
 #include <string>
 #include <string_view>
 
+#include "model/bilanlecture.h"
+
 /// The whole content of a regular file; false when it cannot be read.
 bool LitFichier(const std::string& chemin, std::string& contenu);
+
+/// The same, which says why not; `Lu` when it could.
+BilanLecture::Etat LitFichierOuDit(const std::string& chemin, std::string& contenu);
 
 /// Writes the file, or the one that a link leads to, so that the former one stays whole when the
 /// writing cannot finish: beside it, flushed, then renamed. One with several names, or in a folder

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int MarqueFils = 10000;  ///< Ends the records and opens the table of children.
+constexpr char LiensImpossibles[] = "liens impossibles";
 
 bool CommencePar(std::string_view mot, std::string_view debut) {
     return mot.substr(0, debut.size()) == debut;
@@ -54,18 +55,20 @@ void BDDGeoBase::ChargeTexte(std::string_view texte) {
     LitTexte(texte);
 }
 
-void BDDGeoBase::LitTexte(std::string_view texte) {
+BilanLecture BDDGeoBase::LitTexte(std::string_view texte) {
     Lecteur entree(texte);
-    Charge(entree);
+    BilanLecture bilan = Charge(entree);
+    if (entree.Manque() || entree.ResteTexte()) bilan.Entier = false;
     if (entree.VersionRefusee()) MessageVersion(*entree.VersionRefusee());
+    return bilan;
 }
 
-void BDDGeoBase::Charge(Lecteur& entree) {
-    if (!entree.PeutLire()) return;
+BilanLecture BDDGeoBase::Charge(Lecteur& entree) {
+    if (!entree.PeutLire()) return BilanLecture::Refus(BilanLecture::Illisible);
     const std::string_view version = entree.Mot();
     if (!CommencePar(version, "VERSION3.2") && !CommencePar(version, "VERSION3.3")) {
         entree.RefuseVersion(version);
-        return;
+        return BilanLecture::Refus(BilanLecture::PasUnDessin);
     }
     int nombre = 0;
     entree >> nombre;
@@ -73,41 +76,61 @@ void BDDGeoBase::Charge(Lecteur& entree) {
     // gives one more element of that record's type: what damaged files have always given.
     int code = -1;
     LiensFils liens;
+    BilanLecture bilan;
+    int inconnus = 0;
+    bool termine = false;
     for (int i = 0; i < nombre && entree.PeutLire(); ++i) {
         entree >> code;
         if (code == MarqueFils) {
-            ChargeFils(entree, liens);
+            termine = ChargeFils(entree, liens, bilan) || termine;
         } else if (auto elt = CreeElement(code)) {
             elt->Charge(entree);
             AjouteFin(std::move(elt));
+            if (!entree.Echec()) ++bilan.Lus;
+        } else if (!entree.Echec()) {
+            bilan.Laisse("éléments inconnus");
+            ++inconnus;
         }
     }
-    RelieFils(liens);
+    bilan.Laisse(LiensImpossibles, RelieFils(liens));
     Modifie = false;
+    // The count of a text without end mark may be that of its elements alone.
+    const bool sansMarque = !entree.Echec() && bilan.Lus + inconnus == nombre;
+    bilan.Annonces = sansMarque ? nombre : std::max(nombre, 0) - 1;
+    bilan.Entier = sansMarque || (termine && bilan.Lus + inconnus == bilan.Annonces);
+    return bilan;
 }
 
-void BDDGeoBase::ChargeFils(Lecteur& entree, LiensFils& liens) const {
+bool BDDGeoBase::ChargeFils(Lecteur& entree, LiensFils& liens, BilanLecture& bilan) const {
     const auto existe = [borne = Elements.Nombre()](int rang) { return rang >= 0 && rang < borne; };
     while (entree.PeutLire()) {
         int parent = -1;
         entree >> parent;
-        if (entree.Echec() || parent == -1) return;
+        if (entree.Echec()) return false;
+        if (parent == -1) return true;
         int nombre = 0;
         entree >> nombre;
         for (int i = 0; i < nombre && entree.PeutLire(); ++i) {
             int fils = -1;
             entree >> fils;
-            // An index that names nothing, and a child of itself, are dropped.
-            if (existe(parent) && existe(fils) && parent != fils) liens.emplace_back(parent, fils);
+            // An index that names nothing, and a child of itself, are dropped. That of -1 stands
+            // for a child that no drawing held when the text was written.
+            if (existe(parent) && existe(fils) && parent != fils)
+                liens.emplace_back(parent, fils);
+            else if (fils != -1)
+                bilan.Laisse(LiensImpossibles);
         }
     }
+    return false;
 }
 
-void BDDGeoBase::RelieFils(const LiensFils& liens) {
-    if (liens.empty()) return;
+int BDDGeoBase::RelieFils(const LiensFils& liens) {
+    if (liens.empty()) return 0;
     const std::vector<EltGeo*> rangs(Elements.begin(), Elements.end());
-    for (const auto& [parent, fils] : SansBoucle(liens, Elements.Nombre()))
+    const LiensFils gardes = SansBoucle(liens, Elements.Nombre());
+    for (const auto& [parent, fils] : gardes)
         rangs[static_cast<std::size_t>(parent)]->AjouteFils(rangs[static_cast<std::size_t>(fils)]);
+    return static_cast<int>(liens.size() - gardes.size());
 }
 
 void BDDGeoBase::Ecrit(Ecrivain& sortie) const {

@@ -3,12 +3,16 @@
 #include <string>
 
 class EltGeo;
+struct BilanLecture;
 
 /// What a file keeps of an element.
 std::string Record(const EltGeo& elt);
 
 /// Its last line.
 std::string DerniereLigne(const EltGeo& elt);
+
+/// What was read of what is announced, whether to the end, and what was left out.
+std::string Resume(const BilanLecture& bilan);
 
 /// The bytes of a file.
 std::string Contenu(const std::string& chemin);

@@ -16,7 +16,8 @@ const std::string Dossier = KRVEK_ESSAIS "/exchange/data/ezdxf/";
 
 struct Attendu {
     const char* Nom;
-    const char* Elements;  ///< Behind the two blocks that every such file has.
+    const char* Elements;      ///< Behind the two blocks that every such file has.
+    const char* Laisses = "";  ///< What is counted as left out.
 };
 
 const Attendu Dessins[] = {
@@ -60,20 +61,24 @@ const Attendu Dessins[] = {
      "15: vis_a_bois {3: 1 0 0\n}\n"
      "15: paire {16: 0 8 0\nvis_a_bois\n3.14159\n1\n16: 0 0 0\nvis_a_bois\n0\n1\n}\n"
      "16: 100 0 0\npaire\n0\n1\n"
-     "3: 3 3 0\n"},
+     "3: 3 3 0\n",
+     ", 1 ATTRIB"},
     {"cotes_lineaires",
      "10: 15 50 0\n*\n0 3.3 0\nArial\n0 0 0 30 40 0\n"
      "9: -10 20 0\n40 h7\n1.5708 3.3 0\nArial\n0 0 0 30 40 0\n"
      "7: -9 38 0\n*\n0.927295 3.3 0\nArial\n0 0 0 30 40 0\n"
-     "7: 11 23 0\n*\n0.927295 3.3 0\nArial\n0 0 0 30 40 0\n"},
+     "7: 11 23 0\n*\n0.927295 3.3 0\nArial\n0 0 0 30 40 0\n",
+     ", 1 DIMENSION"},
     {"cotes_angulaires",
      "8: 3.53553 3.53553 0\n*\n-0.785398 3.3 0\nArial\n1 0 0 0 1 0\n0 0 0 5 0 0 0 5 0\n"
      "8: 3.53553 3.53553 0\n*\n-0.785398 3.3 0\nArial\n0 0 0 0 0 0\n0 0 0 5 0 0 0 5 0\n"},
     {"cotes_rondes",
      "12: 1 2 0\n*\n0 3.3 0\nArial\n6 2 0 1 2 0\n"
-     "11: 1 7 0\nØ 10\n0 3.3 0\nArial\n1 -3 0 1 7 0\n"},
+     "11: 1 7 0\nØ 10\n0 3.3 0\nArial\n1 -3 0 1 7 0\n",
+     ", 1 DIMENSION"},
     {"couleurs", "3: 1 0 0\n3: 2 0 0\n3: 3 0 0\n3: 4 0 0\n"},
-    {"sautees", "1: 2 3 0\n1 2 0 3 4 0\n"},
+    {"sautees", "1: 2 3 0\n1 2 0 3 4 0\n",
+     ", 1 ELLIPSE, 1 HATCH, 1 LEADER, 1 MESH, 1 MTEXT, 1 RAY, 1 SHAPE, 1 SPLINE, 1 XLINE"},
     {"maillages", "5: 0 0 0\n0\n4\n0 0 0 0 1 0 1 0 0 1 1 0 \n3: 9 9 0\n"},
     {"papier", "4: 0 0 0\n1 0 6.28319\n1: 105 148.5 0\n0 0 0 210 297 0\n"},
     {"nombres",
@@ -87,7 +92,8 @@ const Attendu Dessins[] = {
 TEST(DxfEzdxf, ClassesEtNombres) {
     for (const Attendu& attendu : Dessins) {
         BDDGeoBase bdd;
-        LitDxf(Contenu(Dossier + attendu.Nom + ".dxf"), bdd);
+        const BilanLecture bilan = LitDxf(Contenu(Dossier + attendu.Nom + ".dxf"), bdd);
+        EXPECT_EQ(Resume(bilan), std::to_string(bdd.Elements.Nombre()) + "/-1" + attendu.Laisses);
         const std::string lu = Resume(bdd);
         std::size_t blocs = 0;
         for (const char* bloc : {"Model_Space {}\n", "Paper_Space {}\n"}) {

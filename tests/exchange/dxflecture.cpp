@@ -258,6 +258,33 @@ TEST(DxfLecture, LignesDeTousLesSystemes) {
               "6: 7 0 0\nabc\n0 0 0\nArial\n3: 1 0 0\n");
 }
 
+TEST(DxfLecture, CeQuiEstLaisseEstCompte) {
+    const auto bilan = [](const std::string& groupes) {
+        BDDGeoBase bdd;
+        return Resume(LitDxf(Dxf(groupes), bdd));
+    };
+    // What only frames, what stands elsewhere, and what a dimension brings along, counts for
+    // nothing.
+    EXPECT_EQ(bilan("0=SECTION|2=HEADER|9=$ACADVER|0=ENDSEC|0=SECTION|2=TABLES|0=TABLE|0=LAYER|"
+                    "0=ENDTAB|0=ENDSEC|0=SECTION|2=BLOCKS|0=BLOCK|2=*D4|0=MTEXT|0=ENDBLK|0=BLOCK|"
+                    "2=vis|0=ATTDEF|0=SPLINE|0=ENDBLK|0=ENDSEC|0=SECTION|2=ENTITIES|0=LINE|11=1|"
+                    "0=MTEXT|0=VIEWPORT|0=INSERT|2=vis|0=ATTRIB|70=1|0=ATTRIB|70=0|0=SEQEND|"
+                    "0=SPLINE|0=ENDSEC|0=SECTION|2=OBJECTS|0=DICTIONARY|0=ENDSEC|0=EOF"),
+              "4/-1, 1 ATTRIB, 1 MTEXT, 2 SPLINE");
+    // Entities that are known, but say too little or nonsense.
+    const std::string debut = "0=SECTION|2=ENTITIES|";
+    EXPECT_EQ(bilan(debut + "0=LINE|10=1|0=CIRCLE|40=0|0=POINT|10=nan|0=DIMENSION|70=6|0=POLYLINE|"
+                            "0=POINT|10=1|0=POLYLINE|0=VERTEX|10=nan|0=SEQEND|0=ENDSEC|0=EOF"),
+              "1/-1, 1 CIRCLE, 1 DIMENSION, 1 LINE, 1 POINT, 2 POLYLINE");
+    EXPECT_EQ(bilan(debut + "0=POINT|10=1|0=POLYLINE|0=VERTEX"), "1/-1 cut, 1 POLYLINE");
+    EXPECT_EQ(bilan("0=POINT|10=1|0=HATCH|0=EOF"), "1/-1, 1 HATCH");
+    std::string genres = debut + "0=\xe9";
+    for (int i = 0; i < 1000; ++i)
+        genres += "|0=G" + std::to_string(i);
+    BDDGeoBase bdd;
+    EXPECT_EQ(LitDxf(Dxf(genres), bdd).Laisses["éléments inconnus"], 802);
+}
+
 TEST(DxfLecture, FichiersQuiNEnSontPas) {
     const std::string bon = Contenu(Donnees + "toutes.dxf");
     std::string large = "\xff\xfe";
@@ -303,6 +330,7 @@ TEST(DxfLecture, AllerRetour) {
     BDDGeo bdd;
     bdd.Ajoute(EltSegment({0, 0}, {9, 9}, 0));
     ImporteDxf(bdd, nom);
+    EXPECT_TRUE(bdd.Lecture.RienPerdu()) << Resume(bdd.Lecture);
     EXPECT_EQ(bdd.NomFichier, nom);
     EXPECT_FALSE(bdd.Nomme);
     EXPECT_FALSE(bdd.Annule());
@@ -337,6 +365,7 @@ TEST(DxfLecture, AllerRetour) {
     // A file that cannot be read leaves nothing, under its name.
     ImporteDxf(bdd, "/nonexistent/plan.dxf");
     EXPECT_EQ(bdd.Elements.Nombre(), 0);
+    EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::Absent);
     EXPECT_EQ(bdd.NomFichier, "/nonexistent/plan.dxf");
     EXPECT_FALSE(bdd.Modifie);
 }
@@ -350,7 +379,8 @@ TEST(DxfLecture, MutationsAuHasard) {
     for (int essai = 0; essai < 4000; ++essai) {
         const std::string texte = Mute(entites, hasard);
         BDDGeo bdd;
-        LitDxf(texte, bdd);
+        const BilanLecture bilan = LitDxf(texte, bdd);
+        ASSERT_EQ(bilan.Lus, bdd.Elements.Nombre()) << texte;
         lus += bdd.Elements.Nombre();
         for (const EltGeo* elt : bdd.Elements)
             ASSERT_TRUE(elt->EstFini()) << texte;

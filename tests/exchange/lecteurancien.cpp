@@ -46,7 +46,10 @@ Lignes Resume(const BDDGeo& bdd) {
 
 Lignes Lus(const std::string& texte, bool entier) {
     BDDGeo bdd;
-    EXPECT_EQ(LecteurAncien(texte).Lit(bdd), entier) << texte;
+    LecteurAncien lecteur(texte);
+    EXPECT_EQ(lecteur.Lit(bdd), entier) << texte;
+    EXPECT_EQ(lecteur.Bilan().Entier, entier);
+    EXPECT_EQ(lecteur.Bilan().Lus, bdd.Elements.Nombre());
     return Resume(bdd);
 }
 
@@ -83,6 +86,9 @@ TEST(LecteurAncien, QuatriemeSectionSansRecords) {
     const std::string texte = Contenu(Chemin("version22.vek"));
     const Lignes segment = {"1: 5 0 0 | 0 0 0 10 0 0"};
     EXPECT_EQ(Lus(texte, true), segment);
+    BDDGeo bdd;
+    ImporteVek(bdd, Chemin("version22.vek"));
+    EXPECT_EQ(Resume(bdd.Lecture), "1/-1, 2 sections non lues");
     const std::string cinq = Change(texte, "N2.2", "N2.3");
     EXPECT_EQ(Lus(cinq, true), (Lignes{segment[0], "6: 5 2 0 | jamais lu | 0 3 0 | Arial"}));
     // Only the markers go by: a record throws the reading out of step.
@@ -119,6 +125,9 @@ TEST(LecteurAncien, CotesEtTextes) {
     EXPECT_EQ(Lus(Change(texte, "\n", "\r\n"), true), attendus);
     ImporteVek(bdd, Ecrit(Change(texte, "\n", "\r")));
     EXPECT_EQ(Resume(bdd), attendus);
+    ImporteVek(bdd, Ecrit(Change(texte, "22.5 5 0", "10 5 0")));
+    EXPECT_EQ(Resume(bdd.Lecture),
+              "10/-1, 1 cotes de genre inconnu, 1 cotes de mesure nulle, 1 cotes sans contenu");
     // Only so much of a line is a text.
     ImporteVek(bdd, Ecrit(Change(texte, " Pièce", std::string(1000000, '\xe9'))));
     EXPECT_EQ(bdd.Elements.Nombre(), 11);
@@ -147,6 +156,8 @@ TEST(ImportAncien, RemplaceLeDessinSansPrendreLeFichier) {
     ImporteVek(bdd, nom);
     EXPECT_EQ(bdd.Elements.Nombre(), 8);
     EXPECT_EQ(bdd.NomFichier, nom);
+    EXPECT_EQ(Resume(bdd.Lecture),
+              "8/-1, 2 arcs de rayon nul ou négatif, 1 segments de longueur nulle");
     EXPECT_FALSE(bdd.Nomme || bdd.Annule());
     EXPECT_TRUE(bdd.Modifie) << "the next save asks for a name";
     // Without anything to read there is nothing to save.
@@ -156,6 +167,7 @@ TEST(ImportAncien, RemplaceLeDessinSansPrendreLeFichier) {
         EXPECT_EQ(bdd.Elements.Nombre(), 0);
         EXPECT_EQ(bdd.NomFichier, nom + "/absent");
         EXPECT_FALSE(bdd.Nomme || bdd.Modifie);
+        EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::Absent);
     }
 }
 
@@ -177,6 +189,7 @@ TEST(ImportAncien, Ve9) {
         EXPECT_EQ(Resume(bdd), Lignes(attendus.begin(), attendus.end() - 1)) << taille;
         // Any other version is none.
         ImporteVe9(bdd, Ecrit(entete + Change(parseme, "N2.3", "N2.2")));
+        EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::PasUnDessin);
         EXPECT_EQ(bdd.Elements.Nombre(), 0);
     }
 }

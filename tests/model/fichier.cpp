@@ -84,6 +84,13 @@ TEST_F(Fichier, CeQuiNEstPasUnFichier) {
     EXPECT_EQ(Lu(Chemin), "illisible");
     ASSERT_EQ(mkfifo(Chemin.c_str(), 0600), 0);
     EXPECT_EQ(Lu(Chemin), "illisible");  // And does not wait.
+    std::string contenu;
+    EXPECT_EQ(LitFichierOuDit(Chemin, contenu), BilanLecture::Illisible);
+    EXPECT_EQ(LitFichierOuDit(Chemin + "/plan", contenu), BilanLecture::Absent);
+    ASSERT_EQ(chmod(Chemin.c_str(), 0), 0);
+    // Nothing is closed to the superuser.
+    const auto ferme = geteuid() != 0 ? BilanLecture::SansDroit : BilanLecture::Illisible;
+    EXPECT_EQ(LitFichierOuDit(Chemin, contenu), ferme);
 }
 
 TEST_F(Fichier, EnregistreEtRetient) {

@@ -116,6 +116,41 @@ TEST(FichierNatif, TextesCoupesOuFaux) {
     EXPECT_EQ(Types(bdd, "VERSION3.20\n2\n1" + Segment(0) + "10000\n-1\n"), "1 ");
 }
 
+TEST(FichierNatif, CeQuiManqueEstCompte) {
+    const std::string chemin = std::string(getenv("HOME")) + "/bilan.vek";
+    BDDGeo bdd;
+    const auto bilan = [&](const std::string& texte) {
+        std::ofstream(chemin) << "VERSION3.3\n" << texte;
+        bdd.Ouvre(chemin);
+        return Resume(bdd.Lecture);
+    };
+    const std::string deux = "1" + Segment(0) + "1" + Segment(7), fin = "10000\n-1\n";
+    EXPECT_EQ(bilan("3\n" + deux + fin), "2/2");
+    EXPECT_TRUE(bdd.Lecture.RienPerdu());
+    EXPECT_EQ(bilan("2\n" + deux), "2/2");
+    EXPECT_EQ(bilan("1\n" + fin), "0/0");
+    // The element that a cut text gives besides is none of the file's.
+    EXPECT_EQ(bilan("9\n" + deux), "2/8 cut");
+    EXPECT_EQ(bdd.Elements.Nombre(), 3);
+    EXPECT_EQ(bilan("3\n" + deux.substr(0, deux.size() - 4)), "1/2 cut");
+    EXPECT_EQ(bilan("2\n" + deux + fin), "2/2 cut");
+    EXPECT_EQ(bilan("3\n" + deux + "10000\n"), "2/2 cut");
+    EXPECT_EQ(bilan("x"), "0/-1 cut");
+    EXPECT_EQ(bilan("6\n99 2 17 " + deux + fin), "2/5, 3 éléments inconnus");
+    EXPECT_FALSE(bdd.Lecture.RienPerdu());
+    EXPECT_EQ(bilan("3\n" + deux + "10000\n0 5 -1 4 0 1 1 \n1 1 0 \n-1\n"),
+              "2/2, 5 liens impossibles");
+    // What a group lacks.
+    const std::string groupe =
+        "2\n15" + Segment(0).substr(0, Segment(0).find("\n0 0 0")) + "\nmoule\nVERSION3.3\n";
+    const std::string ferme = "FinEltBDD\n" + fin;
+    EXPECT_EQ(bilan(groupe + "3\n" + deux + fin + ferme), "1/1");
+    EXPECT_EQ(bilan(groupe + "4\n99 " + deux + fin + ferme), "1/1 cut");
+    EXPECT_EQ(bilan(groupe + "1\n" + fin), "0/1 cut");
+    bdd.Vide();
+    EXPECT_TRUE(bdd.Lecture.RienPerdu());
+}
+
 TEST(FichierNatif, LiensDEnfants) {
     BDDGeo bdd;
     const std::string quatre = "VERSION3.3\n5\n1" + Segment(0) + "1" + Segment(1) + "1" +
@@ -161,6 +196,7 @@ TEST(FichierNatif, MessageDeVersionUneFois) {
     EXPECT_EQ(bdd.Elements.Nombre(), 0);
     EXPECT_EQ(bdd.NomFichier, chemin);
     EXPECT_TRUE(bdd.Nomme);
+    EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::PasUnDessin);
     EXPECT_FALSE(bdd.Annule());
     // Words that are no text for the toolkit, or far too long.
     EXPECT_EQ(Messages([&] {
@@ -173,7 +209,10 @@ TEST(FichierNatif, MessageDeVersionUneFois) {
     // A file that is not there, or is a folder, says nothing.
     EXPECT_TRUE(Messages([&] {
                     bdd.Ouvre(chemin + "/rien");
+                    EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::Absent);
                     bdd.Ouvre("/tmp");
+                    EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::Dossier);
+                    EXPECT_FALSE(bdd.Lecture.RienPerdu());
                     bdd.ChargeTexte("VERSION3.2\n1\n10000\n-1\n");
                 }).empty());
     // The drawing is read again from its own name.
@@ -186,10 +225,12 @@ TEST(FichierNatif, MessageDeVersionUneFois) {
 TEST(FichierNatif, MutationsAuHasard) {
     const std::string bons[] = {Contenu(Pieces), Contenu(Feuille)};
     Hasard hasard(5);
-    const auto relit = [](const std::string& texte) {
+    BilanLecture bilan;
+    const auto relit = [&bilan](const std::string& texte) {
         BddCourante.Vide();
         Lecteur entree(texte);
-        BddCourante.Charge(entree);
+        bilan = BddCourante.Charge(entree);
+        EXPECT_LE(bilan.Lus, BddCourante.Elements.Nombre());
         return BddCourante.SauveTexte();
     };
     int lus = 0;
@@ -203,6 +244,8 @@ TEST(FichierNatif, MutationsAuHasard) {
         // The format rounds, so that a middle may still move in its last digit at the first
         // reading.
         const std::string second = relit(premier);
+        // What the program has written comes in whole.
+        ASSERT_TRUE(bilan.RienPerdu()) << premier;
         ASSERT_EQ(BddCourante.Elements.Nombre(), nombre) << texte;
         ASSERT_EQ(relit(second), second) << texte;
         // What was read can be searched, painted and pasted, whatever it is.
