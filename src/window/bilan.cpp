@@ -63,12 +63,17 @@ Glib::ustring Constat(const BilanLecture& bilan, const Glib::ustring& nom) {
 
 }  // namespace
 
-void DessinWindow::DitLecture() {
+void DessinWindow::DitLecture(bool abandon) {
     const std::string& fichier = BddCourante.NomFichier;
     Glib::ustring texte = Constat(BddCourante.Lecture, EntreGuillemets(fichier));
-    if (texte.empty()) return;
-    if (BddCourante.GarderaOriginal())
+    if (!texte.empty() && BddCourante.GarderaOriginal())
         texte += " Le premier enregistrement gardera l'original sous " +
                  Glib::filename_display_basename(fichier) + "~.";
-    Messages.Dit(texte);
+    std::vector<Bandeau::Issue> issues;
+    if (abandon) {
+        texte = "Le dessin d'avant n'était pas enregistré : une copie est gardée. " + texte;
+        issues = {
+            {"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}};
+    }
+    if (!texte.empty()) Messages.Dit(texte, issues);
 }

@@ -112,8 +112,7 @@ void DessinWindow::RecentFiles() {
     if (!Abandonne()) return;
     Zone.OuvreZone(nom);
     MetTitre();
-    if (abandon) DitAbandon();
-    DitLecture();
+    DitLecture(abandon);
 }
 
 void DessinWindow::Save() {
@@ -142,8 +141,7 @@ void DessinWindow::Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&,
         !demande && BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
     if (!Abandonne()) return;
     Zone.Importe(importeur, nom);
-    if (abandon) DitAbandon();
-    DitLecture();
+    DitLecture(abandon);
 }
 
 void DessinWindow::Dxf() {

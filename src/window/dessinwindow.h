@@ -139,12 +139,11 @@ class DessinWindow : public Gtk::Window {
     /// The drawing is about to be replaced: keeps a copy of what is not saved. False when it is not
     /// to be replaced after all.
     bool Abandonne();
-    void DitAbandon();
-
     void Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&, std::string), bool demande);
 
-    /// Says what the reading of a file has left out.
-    void DitLecture();
+    /// Says what the reading of a file has left out; with abandon also that the drawing before it was
+    /// not saved.
+    void DitLecture(bool abandon = false);
     void Reprend(const CopieSecours& copie);
 
     Window3D Fenetre3D;

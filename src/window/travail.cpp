@@ -117,11 +117,6 @@ bool DessinWindow::Abandonne() {
     return true;
 }
 
-void DessinWindow::DitAbandon() {
-    Messages.Dit("Le dessin d'avant n'était pas enregistré : une copie est gardée.",
-                 {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}});
-}
-
 void DessinWindow::RecupereDessin() {
     // What this very drawing has not saved is in the list too.
     Secours.Ecrit("Travail en cours");
