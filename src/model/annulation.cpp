@@ -60,6 +60,7 @@ void PasChange::Fait(BDDGeo& bdd) {
     auto present = Cible->Clone();
     bdd.Remplace(*Cible, *Autre);
     Autre = std::move(present);
+    bdd.SignalReprise().emit(Cible);
 }
 
 void PasLien::Fait(BDDGeo&) {

@@ -133,6 +133,9 @@ class BDDGeo : public BDDGeoBase {
     /// holds one lets go of it.
     sigc::signal<void, EltGeo*>& SignalRetrait() { return Retrait; }
 
+    /// Tells that a step of the history has given an element another content.
+    sigc::signal<void, const EltGeo*>& SignalReprise() { return Reprise; }
+
     // What the steps of the history are made of: nothing is remembered.
 
     /// Takes an element out of the list and out of every child list; the caller owns it then. It
@@ -178,6 +181,7 @@ class BDDGeo : public BDDGeoBase {
     unsigned long NbChangements = 0;
     unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
     sigc::signal<void> SignauxChangement;
+    sigc::signal<void, const EltGeo*> Reprise;
 };
 
 /// The drawing of the program.

@@ -24,8 +24,10 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
             break;
         case GDK_Z:
         case GDK_z:
-            // With Control it is the key that every hand knows for undoing.
+            // With Control it is the key that every hand knows for undoing, and with Shift besides
+            // it is another one.
             if (evenement->state & GDK_CONTROL_MASK) {
+                if (evenement->state & GDK_SHIFT_MASK) return false;
                 AnnuleAction();
                 return true;
             }
@@ -79,8 +81,7 @@ void ZoneDessin::SupPopup() {
 }
 
 void ZoneDessin::PropPopup() {
-    BddCourante.ProprieteProche(Souris.Position());
-    Outils.DessinRepris();
+    if (BddCourante.ProprieteProche(Souris.Position())) Outils.DessinRepris();
     // The layer typed may be a hidden one.
     Outils.SetCalqueAffiche(BddCourante.CalqueAffiche());
 }

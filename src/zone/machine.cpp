@@ -8,6 +8,7 @@
 
 Machine::Machine(VueZone& vue, Pointeur& pointeur) : Vue(vue), Souris(pointeur) {
     BddCourante.SignalRetrait().connect(sigc::mem_fun(*this, &Machine::LaisseElement));
+    BddCourante.SignalReprise().connect(sigc::mem_fun(*this, &Machine::ElementRepris));
 }
 
 const LigneEtat& Machine::Ligne() const {
@@ -79,6 +80,14 @@ void Machine::LaisseElement(EltGeo* elt) {
     if (tenu) MetEtat(Ligne().Premier);
 }
 
+void Machine::ElementRepris(const EltGeo* elt) {
+    if (elt == EltCourant) LaisseDeplacement();
+}
+
+void Machine::LaisseDeplacement() {
+    if (Etat == ETAT_MODIFIE_POSITION) MetEtat(Ligne().Premier);
+}
+
 void Machine::DessinChange() {
     Redessine();
     MontrePoignees();
@@ -86,7 +95,7 @@ void Machine::DessinChange() {
 }
 
 void Machine::DessinRepris() {
-    if (Etat == ETAT_MODIFIE_POSITION) MetEtat(Ligne().Premier);
+    LaisseDeplacement();
     DessinChange();
 }
 

@@ -97,6 +97,12 @@ class Machine : public sigc::trackable {
     /// Lets go of an element that leaves the drawing, of all with null.
     void LaisseElement(EltGeo* elt);
 
+    /// The element has another content now: it is no longer where its drag began.
+    void ElementRepris(const EltGeo* elt);
+
+    /// Gives up the drag of an element.
+    void LaisseDeplacement();
+
     Pointeur& Souris;
     int Etat = ETAT_REPOS;
     sigc::signal<void, const LigneEtat&> Etats;

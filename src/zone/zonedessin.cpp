@@ -68,7 +68,7 @@ void ZoneDessin::Nouveau() {
 
 void ZoneDessin::AnnuleAction() {
     BddCourante.Annule();
-    Outils.DessinRepris();
+    Outils.DessinChange();
 }
 
 void ZoneDessin::ZoneTrait() {

@@ -75,6 +75,11 @@ void Capture::Garde(const std::string& nom) const {
     Image->save(std::string(KRVEK_IMAGES) + "/" + nom + ".png", "png");
 }
 
+std::string NomAction(Gtk::MenuItem& entree) {
+    GtkAction* action = gtk_activatable_get_related_action(GTK_ACTIVATABLE(entree.gobj()));
+    return action ? gtk_action_get_name(action) : "";
+}
+
 void Main::Bouge(double x, double y) {
     EnvoieMouvement(Zone, x, y);
 }
@@ -101,10 +106,11 @@ void Main::Tourne(double x, double y, GdkScrollDirection sens) {
     EnvoieMolette(Zone, x, y, sens);
 }
 
-void Main::Touche(unsigned touche) {
+void Main::Touche(unsigned touche, unsigned modificateurs) {
     GdkEventKey evenement = {};
     evenement.type = GDK_KEY_PRESS;
     evenement.keyval = touche;
+    evenement.state = modificateurs;
     Zone.ToucheEnfoncee(&evenement);
 }
 

@@ -58,6 +58,9 @@ struct Capture {
     Glib::RefPtr<Gdk::Pixbuf> Image;
 };
 
+/// Name of the action behind an entry of a menu; empty when there is none.
+std::string NomAction(Gtk::MenuItem& entree);
+
 /// Sends the area the events of a mouse and a keyboard.
 class Main {
   public:
@@ -67,7 +70,7 @@ class Main {
     void Bouge(double x, double y);
     void Presse(double x, double y, int bouton = 1, GdkEventType type = GDK_BUTTON_PRESS);
     void Tourne(double x, double y, GdkScrollDirection sens);
-    void Touche(unsigned touche);
+    void Touche(unsigned touche, unsigned modificateurs = 0);
 
     /// Opens the menu of a right click and closes it; its entries.
     std::vector<Gtk::MenuItem*> MenuDroit(double x, double y);

@@ -80,11 +80,6 @@ std::vector<Gtk::MenuItem*> Bureau::Entrees() {
     return entrees;
 }
 
-std::string NomAction(Gtk::MenuItem& entree) {
-    GtkAction* action = gtk_activatable_get_related_action(GTK_ACTIVATABLE(entree.gobj()));
-    return action ? gtk_action_get_name(action) : "";
-}
-
 void Bureau::Choisit(const std::string& action) {
     for (Gtk::MenuItem* entree : Entrees()) {
         if (NomAction(*entree) != action) continue;

@@ -8,9 +8,6 @@
 #include "commun/banc.h"
 #include "window/dessinwindow.h"
 
-/// Name of the action behind an entry of the menus; empty when there is none.
-std::string NomAction(Gtk::MenuItem& entree);
-
 /// A new folder.
 std::string DossierProvisoire();
 

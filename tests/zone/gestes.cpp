@@ -225,7 +225,7 @@ TEST(Bandes, SuiventLaTailleDeLaFenetre) {
 
 TEST(Bandes, LaPoigneeSuitLAnnulation) {
     Banc banc;
-    AjouteSegment({-100, 0}, {100, 0});
+    EltSegment* premier = AjouteSegment({-100, 0}, {100, 0});
     EltSegment* second = AjouteSegment({-100, 100}, {100, 100});
     banc.Zone.Outils.Entre(ETAT_MODIFIE);
     banc.Souris.ClicA({0, 97});
@@ -239,6 +239,26 @@ TEST(Bandes, LaPoigneeSuitLAnnulation) {
     EXPECT_EQ(banc.Image().Ecart(Neuve(banc)), 0);
     banc.Souris.ClicA({30, 60});
     EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
+
+    // A drag outlives the undoing of what is not its own, and ends with that of its element.
+    BddCourante.Change(*premier, EltSegment({-100, 20}, {100, 20}, 0));
+    AjouteSegment({-100, -90}, {100, -90});
+    banc.Souris.ClicA({100, 20});
+    banc.Souris.ClicA({100, 20});
+    banc.Souris.BougeA({30, 150});
+    banc.Souris.Touche(GDK_Z, GDK_CONTROL_MASK | GDK_SHIFT_MASK);
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 2) << "with Shift the key means nothing";
+    ExigePoint(EchelleCourante.Origine, 0, 0);
+    banc.Souris.Touche(GDK_z, GDK_CONTROL_MASK);
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
+    ASSERT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE_POSITION);
+    for (Gtk::MenuItem* entree : banc.Souris.MenuDroit(330, 50))
+        if (NomAction(*entree) == "Prop") entree->activate();
+    ASSERT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE_POSITION) << "nothing was there";
+    EXPECT_EQ(banc.Image().Ecart(Neuve(banc)), 0);
+    banc.Souris.Touche(GDK_z, GDK_CONTROL_MASK);
+    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_MODIFIE);
+    ExigePoint(premier->Extremite, 100, 0);
 }
 
 TEST(Echecs, UneConstructionImpossibleNAjouteRien) {
