@@ -163,7 +163,7 @@ std::string DefinitionMenu(const char* forme, const char* nom,
     return texte + marge + "</" + forme + ">\n";
 }
 
-/// The menu that a button of the mouse opens.
+/// The menu that a button of the mouse or a key opens at the pointer.
 class MenuContextuel {
   public:
     /// groupe: the name of its actions' group. cible outlives the menu.
@@ -175,7 +175,7 @@ class MenuContextuel {
         Gestionnaire->add_ui_from_string(DefinitionUI(DefinitionMenu("popup", "Popup", table)));
     }
 
-    /// By that button of the mouse, at that time of its event.
+    /// By that button of the mouse, 0 for a key, at that time of its event.
     void Ouvre(guint bouton, guint32 instant);
 
   private:

@@ -28,12 +28,16 @@ std::optional<PointVek> PasDe(const GdkEventKey* evenement) {
     };
     switch (evenement->keyval) {
         case GDK_Right:
+        case GDK_KP_Right:
             return PointVek(pas, 0.0);
         case GDK_Left:
+        case GDK_KP_Left:
             return PointVek(-pas, 0.0);
         case GDK_Up:
+        case GDK_KP_Up:
             return enHauteur(pas);
         case GDK_Down:
+        case GDK_KP_Down:
             return enHauteur(-pas);
         default:
             return {};

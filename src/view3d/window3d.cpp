@@ -12,7 +12,8 @@ Window3D::Window3D(BDDGeo& bdd) : Dessin(bdd) {
 }
 
 bool Window3D::on_key_press_event(GdkEventKey* evenement) {
-    if (evenement->keyval != GDK_End) return Dessin.ToucheEnfoncee(evenement);
+    if (evenement->keyval != GDK_End && evenement->keyval != GDK_KP_End)
+        return Dessin.ToucheEnfoncee(evenement);
     hide();
     return true;
 }

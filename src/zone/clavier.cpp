@@ -1,4 +1,4 @@
-// The keys of the drawing area, and the menu of its right button.
+// The keys of the drawing area, and its popup menu.
 
 #include <gdk/gdkkeysyms.h>
 #include <gtkmm/stock.h>
@@ -11,15 +11,19 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
     Outils.Touche = evenement->keyval;
     switch (Outils.Touche) {
         case GDK_Up:
+        case GDK_KP_Up:
             EchelleCourante.Haut();
             break;
         case GDK_Down:
+        case GDK_KP_Down:
             EchelleCourante.Bas();
             break;
         case GDK_Left:
+        case GDK_KP_Left:
             EchelleCourante.Gauche();
             break;
         case GDK_Right:
+        case GDK_KP_Right:
             EchelleCourante.Droite();
             break;
         case GDK_Z:
@@ -38,10 +42,19 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
             Outils.Redessine();
             return true;
         case GDK_End:
+        case GDK_KP_End:
             Outils.Finit();
             return true;
         case GDK_Delete:
+        case GDK_KP_Delete:
             SupPopup();
+            return true;
+        case GDK_F10:
+            // Alone it is the menu bar's.
+            if (!(evenement->state & GDK_SHIFT_MASK)) return false;
+            [[fallthrough]];
+        case GDK_Menu:
+            Popup.Ouvre(0, evenement->time);
             return true;
         default:
             return false;

@@ -43,7 +43,7 @@ class ZoneDessin : public Gtk::DrawingArea {
     void ZoomMoinsAction();
     void ZoomInitAction();
 
-    /// The menu of the right button.
+    /// The menu of the right button and of the menu key.
     static const std::vector<Commande<ZoneDessin>>& CommandesPopup();
 
     VueZone Vue;

@@ -90,6 +90,10 @@ void Main::Presse(double x, double y, int bouton, GdkEventType type) {
 
 std::vector<Gtk::MenuItem*> Main::MenuDroit(double x, double y) {
     Presse(x, y, 3);
+    return FermeMenu();
+}
+
+std::vector<Gtk::MenuItem*> Main::FermeMenu() {
     LaisseTourner();
     for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
         auto* menu = fenetre->get_visible() ? PremierDe<Gtk::Menu>(*fenetre) : nullptr;

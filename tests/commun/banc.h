@@ -75,6 +75,9 @@ class Main {
     /// Opens the menu of a right click and closes it; its entries.
     std::vector<Gtk::MenuItem*> MenuDroit(double x, double y);
 
+    /// Closes the menu that is open; its entries, none where none is open.
+    std::vector<Gtk::MenuItem*> FermeMenu();
+
     // The same at drawing positions, through the present view.
     void BougeA(const PointVek& p);
     void ClicA(const PointVek& p);

@@ -362,7 +362,7 @@ TEST(Vue, TouchesMoletteEtZooms) {
     ExigePoint(EchelleCourante.Origine, 100, 50);
     ExigePoint(banc.Zone.Souris.Position(), 150, 75);  // It follows the view at rest.
     banc.Souris.Touche(GDK_Up);
-    banc.Souris.Touche(GDK_Right);
+    banc.Souris.Touche(GDK_KP_Right);
     ExigePoint(EchelleCourante.Origine, 105, 55);
     banc.Souris.Touche(GDK_Shift_L);
     banc.Souris.Tourne(400, 150, GDK_SCROLL_DOWN);
@@ -394,11 +394,23 @@ TEST(Commandes, SupprimerPilerAnnuler) {
     EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
     EXPECT_EQ(BddCourante.Elements.Premier(), dessus);
     banc.Souris.BougeA({0, 2});
-    banc.Souris.Touche(GDK_Delete);
+    banc.Souris.Touche(GDK_KP_Delete);
     EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
     banc.Zone.AnnuleAction();
     banc.Zone.AnnuleAction();
     EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
+
+    // The keys of the popup menu open it where the pointer is.
+    for (const auto& [touche, modificateurs] :
+         {std::pair{GDK_Menu, 0}, {GDK_F10, 1}, {GDK_F10, 0}}) {
+        banc.Souris.Touche(touche, modificateurs);
+        const auto entrees = banc.Souris.FermeMenu();
+        const bool ouvert = touche == GDK_Menu || modificateurs == GDK_SHIFT_MASK;
+        ASSERT_EQ(entrees.size(), ouvert ? 4u : 0u) << touche;
+        if (ouvert) entrees.front()->activate();
+        LaisseTourner();
+    }
+    EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
 }
 
 TEST(Selection, ResteJusquACeQuOnLAnnule) {
