@@ -68,6 +68,12 @@ void ZoneDessin::ToucheRelachee() {
     Outils.Touche = 0;
 }
 
+void ZoneDessin::on_grab_notify(bool reprise) {
+    // A menu or a dialog takes the keys, and the release of the one that is held as well.
+    ToucheRelachee();
+    Gtk::DrawingArea::on_grab_notify(reprise);
+}
+
 const std::vector<Commande<ZoneDessin>>& ZoneDessin::CommandesPopup() {
     using Ligne = Commande<ZoneDessin>;
     // Four equal accelerators, of which the first wins: only the open menu would read them.

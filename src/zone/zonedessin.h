@@ -57,6 +57,7 @@ class ZoneDessin : public Gtk::DrawingArea {
     bool on_button_press_event(GdkEventButton* evenement) override;
     bool on_motion_notify_event(GdkEventMotion* evenement) override;
     bool on_scroll_event(GdkEventScroll* evenement) override;
+    void on_grab_notify(bool reprise) override;
 
   private:
     void SupPopup();

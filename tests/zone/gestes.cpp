@@ -90,6 +90,12 @@ TEST(Modifier, SeulLeControleGaucheCopie) {
         banc.Souris.ClicA({100, 0});
         banc.Zone.ToucheRelachee();
     }
+    // A menu that opens sees the release of the key in the window's place.
+    banc.Souris.Touche(GDK_Control_L);
+    banc.Souris.MenuDroit(0, 0);
+    banc.Souris.ClicA({150, 0});
+    banc.Souris.ClicA({100, 3});
+    banc.Souris.ClicA({100, 0});
     ASSERT_EQ(BddCourante.Elements.Nombre(), 2);
     // The copy went to (100, 0) and left the circle; then the circle itself moved there.
     ExigePoint(cercle->Position, 100, 0);
