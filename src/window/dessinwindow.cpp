@@ -37,7 +37,9 @@ DessinWindow::DessinWindow()
       ReglagesImpression(Gtk::PrintSettings::create()) {
     MiseEnPage->set_paper_size(Gtk::PaperSize("iso_a4"));
     set_border_width(5);
-    set_size_request(800, 600);
+    // With a title bar and a panel it still fits a screen 600 pixels high.
+    set_size_request(760, 520);
+    set_default_size(800, 600);
     maximize();
     add(BoiteVerticale);
     BoiteVerticale.pack_start(BoiteMenu, Gtk::PACK_SHRINK);
