@@ -11,6 +11,7 @@
 #include "exchange/printformoperation.h"
 #include "model/bddgeo.h"
 #include "window/donnees.h"
+#include "window/menus.h"
 #include "zone/ligneetat.h"
 
 namespace {
@@ -90,6 +91,7 @@ void DessinWindow::RangeEtat() {
     LabelAction.set_ellipsize(Pango::ELLIPSIZE_END);
     LabelAction.set_alignment(Gtk::ALIGN_RIGHT);
     BoiteEtat.pack_end(LabelAction, Gtk::PACK_EXPAND_WIDGET, MargeMin);
+    BoiteEtat.foreach (sigc::ptr_fun(&EcritEnSombre));
 }
 
 int DessinWindow::MargeVoulue(const Gtk::Widget* libelle) const {

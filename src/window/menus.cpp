@@ -1,5 +1,6 @@
 // The menus and the tool bar.
 
+#include <gtkmm/menubar.h>
 #include <gtkmm/toolbar.h>
 
 #include "window/complements.h"
@@ -17,7 +18,17 @@ void RetireFocus(Gtk::Widget& outil) {
         boite->foreach (sigc::ptr_fun(&RetireFocus));
 }
 
+/// Under the pointer the theme paints the entry, background and words.
+void EcritEntreeEnSombre(Gtk::Widget& entree) {
+    EcritEnSombre(*dynamic_cast<Gtk::Bin&>(entree).get_child());
+}
+
 }  // namespace
+
+void EcritEnSombre(Gtk::Widget& libelle) {
+    libelle.modify_fg(Gtk::STATE_NORMAL, Gdk::Color("#000000"));
+    libelle.modify_fg(Gtk::STATE_INSENSITIVE, Gdk::Color("#8C8C78"));
+}
 
 std::string DefinitionMenus() {
     std::vector<const Enseigne*> outils;
@@ -39,8 +50,9 @@ void DessinWindow::ConstruitMenus() {
     GestionnaireUI->signal_post_activate().connect(
         sigc::hide(sigc::mem_fun(Messages, &Bandeau::CompteCommande)));
 
-    Gtk::Widget* menu = GestionnaireUI->get_widget("/MenuBar");
+    auto* menu = dynamic_cast<Gtk::MenuBar*>(GestionnaireUI->get_widget("/MenuBar"));
     menu->modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#FFFFEA"));
+    menu->foreach (sigc::ptr_fun(&EcritEntreeEnSombre));
     BoiteMenu.pack_start(*menu, Gtk::PACK_SHRINK);
 
     auto* outils = dynamic_cast<Gtk::Toolbar*>(GestionnaireUI->get_widget("/ToolBar"));

@@ -99,6 +99,24 @@ TEST(Actions, LesLettresNuesEtLesTouchesArriventUneFois) {
     EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.0") << "no tool button was fired";
 }
 
+TEST(Fenetre, SeLitSousUnThemeSombre) {
+    Bureau bureau;
+    gtk_rc_parse_string(
+        "style 'sombre' { fg[NORMAL] = 'white' fg[INSENSITIVE] = 'white' bg[NORMAL] = 'black' }\n"
+        "widget 'sombre*' style 'sombre'");
+    bureau.Fenetre.set_name("sombre");
+    gtk_rc_reset_styles(gtk_settings_get_default());
+    const auto clarte = [](Gtk::Widget& texte, Gtk::StateType etat) {
+        return texte.get_style()->get_fg(etat).get_green();
+    };
+    ASSERT_EQ(clarte(bureau.Fenetre, Gtk::STATE_NORMAL), 0xffff) << "the theme is in force";
+    for (const char* debut : {"Fichier", "Aide", "XXXX", "Action", "Travail"}) {
+        Gtk::Label& libelle = bureau.LibelleCommencant(debut);
+        EXPECT_EQ(clarte(libelle, Gtk::STATE_NORMAL), 0) << debut;
+        EXPECT_EQ(clarte(libelle, Gtk::STATE_INSENSITIVE) >> 8, 0x8c) << debut;
+    }
+}
+
 TEST(Fichiers, EnregistrerRouvrirAvecAccents) {
     Bureau bureau;
     const std::string nom = Dossier() + "/pièce à 100% n°1";
