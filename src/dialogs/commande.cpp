@@ -2,6 +2,8 @@
 
 #include <gtkmm/recentaction.h>
 #include <gtkmm/recentfilter.h>
+#include <gtkmm/stock.h>
+#include <gtkmm/stockitem.h>
 #include <gtkmm/toggleaction.h>
 
 #include <algorithm>
@@ -30,6 +32,16 @@ std::string Enseigne::Mot() const {
     std::string mot = MotDonne.empty() ? Libelle : MotDonne;
     mot.erase(std::remove(mot.begin(), mot.end(), '_'), mot.end());
     return mot;
+}
+
+std::string Enseigne::BulleBarre() const {
+    if (!Bulle.empty()) return Bulle;
+    std::string touches = Touche;
+    Gtk::StockItem stock;
+    if (touches.empty() && Gtk::Stock::lookup(Gtk::StockID(Image), stock))
+        touches = Gtk::AccelGroup::get_label(stock.get_keyval(), stock.get_modifier());
+    if (!Raccourci.empty()) touches += " ou " + Raccourci;
+    return touches.empty() ? Mot() : Mot() + " (" + touches + ")";
 }
 
 Glib::RefPtr<Gtk::Action> CreeAction(const Enseigne& e, bool active) {

@@ -14,18 +14,22 @@ struct Enseigne {
     enum Genre { Simple, Icone, Stock, Bascule, Recents, Menu, Separateur };
 
     Genre Forme = Separateur;
-    std::string Nom;       ///< Of the action.
-    std::string Libelle;   ///< Empty: the stock item's.
-    std::string Bulle;     ///< Tooltip.
-    std::string Touche;    ///< Accelerator, as the toolkit reads it.
-    std::string Image;     ///< Name of an icon, or of a stock item.
-    std::string MotDonne;  ///< Where the label is not what a user would call it.
+    std::string Nom;        ///< Of the action.
+    std::string Libelle;    ///< Empty: the stock item's.
+    std::string Bulle;      ///< Tooltip.
+    std::string Touche;     ///< Accelerator, as the toolkit reads it.
+    std::string Raccourci;  ///< A key that does the same without being the accelerator.
+    std::string Image;      ///< Name of an icon, or of a stock item.
+    std::string MotDonne;   ///< Where the label is not what a user would call it.
     bool DansMenu = true;
     int GroupeBarre = 0;  ///< Which group of the tool bar, from the left; 0: none.
     int RangBarre = 0;    ///< Place within it.
 
     /// What a user would call it: by default the label without its mnemonic.
     std::string Mot() const;
+
+    /// What the tool bar says of it: the tooltip, or else the word with the keys.
+    std::string BulleBarre() const;
 };
 
 /// The action, without what it does. active: the start value of a toggle.
@@ -68,6 +72,11 @@ struct Commande : Enseigne {
 
     Commande& AvecTouche(const char* touche) {
         Touche = touche;
+        return *this;
+    }
+
+    Commande& AussiPar(const char* touche) {
+        Raccourci = touche;
         return *this;
     }
 

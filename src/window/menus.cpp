@@ -18,6 +18,16 @@ void RetireFocus(Gtk::Widget& outil) {
         boite->foreach (sigc::ptr_fun(&RetireFocus));
 }
 
+/// The toolkit gives its own items no tooltip, and a picture alone does not say what it does.
+void MetBulles(Gtk::UIManager& gestionnaire) {
+    ParcourtCommandes(TableCommandes(), [&](const Enseigne& commande, const std::vector<int>&) {
+        if (commande.GroupeBarre == 0) return;
+        auto* outil =
+            dynamic_cast<Gtk::ToolItem*>(gestionnaire.get_widget("/ToolBar/" + commande.Nom));
+        outil->set_tooltip_text(commande.BulleBarre());
+    });
+}
+
 /// Under the pointer the theme paints the entry, background and words.
 void EcritEntreeEnSombre(Gtk::Widget& entree) {
     EcritEnSombre(*dynamic_cast<Gtk::Bin&>(entree).get_child());
@@ -60,6 +70,7 @@ void DessinWindow::ConstruitMenus() {
     outils->set_toolbar_style(Gtk::TOOLBAR_ICONS);
     outils->modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));
     RetireFocus(*outils);
+    MetBulles(*GestionnaireUI.operator->());
     BoiteMenu.pack_start(*outils, Gtk::PACK_SHRINK);
 }
 

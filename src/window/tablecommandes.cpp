@@ -117,6 +117,7 @@ Ligne MenuEdition() {
                 .DansLaBarre(2, 1),
             Stock("Annulation", Gtk::Stock::UNDO, "Annuler", Zone(&ZoneDessin::AnnuleAction))
                 .AvecTouche("A")
+                .AussiPar("Ctrl+Z")
                 .DansLaBarre(2, 3),
             Ligne::Trait(),
             Outil("ZoneSelection", "Sélection", "Donner la zone à sélectionner", ETAT_SELECTION_1)

@@ -7,6 +7,7 @@
 #include <gtkmm/filechooserdialog.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/table.h>
+#include <gtkmm/toolbutton.h>
 
 #include <numeric>
 #include <set>
@@ -71,6 +72,19 @@ TEST(Actions, SontCellesDesFichiers) {
     EXPECT_EQ(texte, Contenu(KRVEK_ESSAIS "/window/data/commandes.txt"));
     EXPECT_EQ(static_cast<std::size_t>(nombre), lignes.size()) << "one stands twice";
     EXPECT_EQ(DefinitionMenus(), '\n' + Contenu(KRVEK_ESSAIS "/window/data/menus.ui"));
+}
+
+TEST(Actions, LesOutilsDisentCeQuIlsFont) {
+    Bureau bureau;
+    std::vector<Gtk::ToolButton*> outils;
+    Recolte(bureau.Fenetre, outils);
+    std::string bulles;
+    for (Gtk::ToolButton* outil : outils)
+        bulles += outil->get_child()->get_tooltip_text() + '|';
+    EXPECT_EQ(
+        bulles.substr(0, bulles.find("Donner")),
+        "Nouveau (Ctrl+N)|Ouvrir (Ctrl+O)|Enregistrer (Ctrl+S)|Imprimer|Cliquer sur l'élément "
+        "à supprimer|Cliquer puis déplacer|Annuler (A ou Ctrl+Z)|");
 }
 
 TEST(Actions, LesLettresNuesEtLesTouchesArriventUneFois) {
