@@ -1,8 +1,8 @@
 // The help page and the about box.
 
 #include <glibmm/convert.h>
+#include <glibmm/main.h>
 #include <glibmm/miscutils.h>
-#include <glibmm/spawn.h>
 #include <gtk/gtk.h>
 #include <gtkmm/messagedialog.h>
 
@@ -11,28 +11,46 @@
 
 namespace {
 
-/// False when there is nothing to open the address with.
-bool OuvreNavigateur(const Glib::RefPtr<Gdk::Screen>& ecran, const std::string& adresse) {
-    if (gtk_show_uri(ecran->gobj(), adresse.c_str(), gtk_get_current_event_time(), nullptr))
-        return true;
-    try {
-        const std::vector<std::string> commande = {"xdg-open", adresse};
-        Glib::spawn_async("", commande, Glib::SPAWN_SEARCH_PATH);
-        return true;
-    } catch (const Glib::SpawnError&) {
-        return false;
-    }
+std::string PageAide() {
+    return Glib::build_filename(DossierDonnees(), "aide.htm");
+}
+
+/// Starts what opens addresses; throws where there is none.
+Glib::Pid LanceNavigateur(const std::string& adresse) {
+    const std::vector<std::string> commande = {"xdg-open", adresse};
+    Glib::Pid navigateur = 0;
+    Glib::spawn_async("", commande, Glib::SPAWN_SEARCH_PATH | Glib::SPAWN_DO_NOT_REAP_CHILD,
+                      sigc::slot<void>(), &navigateur);
+    return navigateur;
 }
 
 }  // namespace
 
 void DessinWindow::Aide() {
-    const std::string page = Glib::build_filename(DossierDonnees(), "aide.htm");
-    if (OuvreNavigateur(get_screen(), Glib::filename_to_uri(page))) {
-        iconify();
-        return;
+    const std::string adresse = Glib::filename_to_uri(PageAide());
+    try {
+        // It may start and find nothing to show the page with: only its end tells.
+        Glib::signal_child_watch().connect(sigc::mem_fun(*this, &DessinWindow::NavigateurFini),
+                                           LanceNavigateur(adresse));
+    } catch (const Glib::SpawnError&) {
+        if (!gtk_show_uri(get_screen()->gobj(), adresse.c_str(), gtk_get_current_event_time(),
+                          nullptr)) {
+            MontreOuEstLAide();
+            return;
+        }
     }
-    Gtk::MessageDialog message(*this, "L'aide se lit dans un navigateur :\n" + page, false,
+    iconify();
+}
+
+void DessinWindow::NavigateurFini(Glib::Pid navigateur, int etat) {
+    Glib::spawn_close_pid(navigateur);
+    if (etat == 0) return;
+    deiconify();
+    MontreOuEstLAide();
+}
+
+void DessinWindow::MontreOuEstLAide() {
+    Gtk::MessageDialog message(*this, "L'aide se lit dans un navigateur :\n" + PageAide(), false,
                                Gtk::MESSAGE_INFO, Gtk::BUTTONS_OK, true);
     message.run();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <glibmm/spawn.h>
 #include <gtkmm/actiongroup.h>
 #include <gtkmm/alignment.h>
 #include <gtkmm/box.h>
@@ -116,6 +117,12 @@ class DessinWindow : public Gtk::Window {
 
     /// Says that the printing failed, unless annonce tells that the user knows already.
     void AnnonceEchec(bool& annonce);
+
+    /// What showed the help page, or failed to, has ended.
+    void NavigateurFini(Glib::Pid navigateur, int etat);
+
+    /// Tells where the help page is, for want of something that shows it.
+    void MontreOuEstLAide();
 
     void ConstruitMenus();
     void AjouteComplements();

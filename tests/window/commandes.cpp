@@ -131,6 +131,25 @@ TEST(Fenetre, SeLitSousUnThemeSombre) {
     }
 }
 
+TEST(Aide, DitOuElleEstSansNavigateur) {
+    const std::string navigateur = Dossier() + "/xdg-open", chemin = g_getenv("PATH");
+    ASSERT_TRUE(EcritFichier(navigateur, "#!/bin/sh\nexit 3\n"));
+    g_chmod(navigateur.c_str(), 0755);
+    g_setenv("PATH", (Dossier() + ":" + chemin).c_str(), true);
+    Bureau bureau;
+    bool dit = false;
+    RepondDialogue(Gtk::RESPONSE_OK, [&dit](Gtk::Dialog& dialogue) {
+        dit = dynamic_cast<Gtk::MessageDialog*>(&dialogue);
+    });
+    bureau.Choisit("Aide");
+    for (int attente = 0; attente < 500 && !dit; ++attente) {
+        g_usleep(10000);
+        LaisseTourner();
+    }
+    EXPECT_TRUE(dit);
+    g_setenv("PATH", chemin.c_str(), true);
+}
+
 TEST(Fichiers, EnregistrerRouvrirAvecAccents) {
     Bureau bureau;
     const std::string nom = Dossier() + "/pièce à 100% n°1";
