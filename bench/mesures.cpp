@@ -276,6 +276,15 @@ int main(int nombre, char** mots) {
                      "PlaqueEtCylindres/50", 4);
     rapports.Compare("plate of 200 holes / of 50", "PlaquePercee/200", "PlaquePercee/50", 5);
     rapports.Compare("20 carved solids / 5", "SolidesPerces/20", "SolidesPerces/5", 5);
+    rapports.Compare("copy of the net / save, 100,000 elements", "CopieSecourue/100000",
+                     "Enregistrement/100000", 1.5);
+    rapports.Compare("copy of the net / save, 1,000,000 elements", "CopieSecourue/1000000",
+                     "Enregistrement/1000000", 1.5);
+    rapports.Part("share of the net while 100,000 are edited", "CopieSecourue/100000", 10.0, 50.0);
+    rapports.Part("share of the net while 1,000,000 are edited", "CopieSecourue/1000000", 10.0,
+                  50.0);
+    rapports.Compare("1,000 edits looked after / not", "EditionsSecourues/100000",
+                     "EditionsNues/100000", 1.5);
     AfficheMemoire(100000);
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "rapports.h"
 
+#include <algorithm>
 #include <cstdio>
 
 void Rapports::ReportRuns(const std::vector<Run>& mesures) {
@@ -22,4 +23,13 @@ void Rapports::Temps(const char* quoi, const std::string& mesure, double voulu) 
     const auto a = Secondes.find(mesure);
     if (a == Secondes.end()) return;
     std::printf("%-52s %8.3f ms (at most %g)\n", quoi, a->second * 1e3, voulu);
+}
+
+void Rapports::Part(const char* quoi, const std::string& mesure, double secondes,
+                    double fois) const {
+    const auto a = Secondes.find(mesure);
+    if (a == Secondes.end()) return;
+    const double attente = std::max(secondes, fois * a->second);
+    std::printf("%-52s %8.3f %%  (at most %g)\n", quoi, 100.0 * a->second / (attente + a->second),
+                100.0 / fois);
 }

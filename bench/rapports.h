@@ -17,6 +17,10 @@ class Rapports : public benchmark::ConsoleReporter {
     /// Prints a time in milliseconds beside what is wanted.
     void Temps(const char* quoi, const std::string& mesure, double voulu) const;
 
+    /// Prints the share of the time, in percent, that something takes which is done again each time
+    /// that so many seconds, and so many times its own time, have gone by.
+    void Part(const char* quoi, const std::string& mesure, double secondes, double fois) const;
+
   private:
     std::map<std::string, double> Secondes;
 };

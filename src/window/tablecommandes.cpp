@@ -126,7 +126,12 @@ Ligne MenuEdition() {
                   Vue(&VueZone::AnnuleSelection))
                 .DansLaBarre(2, 5),
             Ligne::Trait(),
-            Stock("CopierBitmap", Gtk::Stock::COPY, "Copier", Presse(&PressePapier::CopieBitmap)),
+            Stock("CopierBitmap", Gtk::Stock::COPY, "Copier",
+                  [](DessinWindow& fenetre) {
+                      // The strip lies over what is copied.
+                      fenetre.Messages.Cache();
+                      fenetre.Zone.Presse.CopieBitmap();
+                  }),
             Icone("CopierVek", "Copier _Vek", "Copier la zone sélectionnée",
                   Presse(&PressePapier::Copie))
                 .DansLaBarre(2, 6),

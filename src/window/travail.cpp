@@ -48,6 +48,8 @@ void PrepareFin() {
 void DessinWindow::SurveilleTravail() {
     SecoursEnCours = &Secours;
     PrepareFin();
+    Zone.Presse.SignalDit().connect(
+        [this](const Glib::ustring& texte) { Messages.Dit(texte); });
     BddCourante.SignalChangement().connect(sigc::mem_fun(*this, &DessinWindow::PrevoitSecours));
     // A change that came too soon after a copy is kept by a later motion.
     Zone.Souris.SignalPosition().connect(
@@ -55,6 +57,7 @@ void DessinWindow::SurveilleTravail() {
 }
 
 void DessinWindow::LaisseTravail() {
+    Zone.Presse.Remet();
     Secours.Oublie();
     SecoursEnCours = nullptr;
 }

@@ -29,6 +29,9 @@ class Bandeau : public Gtk::EventBox {
     /// What is said; empty when nothing is.
     Glib::ustring Texte() const;
 
+    /// Says nothing any more.
+    void Cache();
+
     /// A command has been given.
     void CompteCommande();
 
@@ -37,7 +40,6 @@ class Bandeau : public Gtk::EventBox {
 
   private:
     void Repond(int reponse);
-    void Cache();
 
     Gtk::InfoBar Barre;
     Gtk::Label Libelle;

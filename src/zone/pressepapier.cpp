@@ -41,6 +41,7 @@ void PressePapier::Offre(bool couper) {
     // the clearing must leave it alone.
     const std::vector<Gtk::TargetEntry> cibles = {Gtk::TargetEntry(Cible)};
     PressePapierSysteme()->set(cibles, sigc::mem_fun(*this, &PressePapier::Donne), [] {});
+    PressePapierSysteme()->set_can_store(cibles);
     Outils.DessinChange();
 }
 
@@ -106,4 +107,9 @@ void PressePapier::PrendImage(const Glib::RefPtr<Gdk::Window>& fenetre) {
     if (largeur < 1 || hauteur < 1) return;
     PressePapierSysteme()->set_image(Gdk::Pixbuf::create(
         Glib::RefPtr<Gdk::Drawable>(fenetre), Zone.get_colormap(), x, y, 0, 0, largeur, hauteur));
+    PressePapierSysteme()->set_can_store();
+}
+
+void PressePapier::Remet() {
+    PressePapierSysteme()->store();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtkmm/selectiondata.h>
+#include <sigc++/signal.h>
 #include <sigc++/trackable.h>
 
 class Machine;
@@ -32,6 +33,12 @@ class PressePapier : public sigc::trackable {
     /// Offers what the selection shows as a picture.
     void CopieBitmap();
 
+    /// Hands over what is offered, where the desktop has someone who takes it: the program ends.
+    void Remet();
+
+    /// Tells in French what was left out of what is being pasted.
+    sigc::signal<void, const Glib::ustring&>& SignalDit() { return Dits; }
+
   private:
     void Offre(bool couper);
     void Donne(Gtk::SelectionData& donnees, guint info);
@@ -43,4 +50,5 @@ class PressePapier : public sigc::trackable {
 
     Machine& Outils;
     Gtk::Widget& Zone;
+    sigc::signal<void, const Glib::ustring&> Dits;
 };

@@ -199,6 +199,7 @@ void VerifieRepeint(Main3D& vue) {
 
 TEST(Hasard, PlusieursMilliersDeGestes) {
     Bureau bureau;
+    bureau.Fenetre.Secours.Intervalle = 0.0;
     bureau.Choisit("Vue3D");
     Main3D vue(Fenetre3D());
     vue.Fenetre.move(680, 420);
