@@ -65,6 +65,25 @@ class Liste {
         ++Compte;
     }
 
+    /// Puts valeur behind the first rang values, at the tail when there are fewer.
+    void Insere(T* valeur, int rang) {
+        if (rang <= 0) return AjouteDebut(valeur);
+        if (rang >= Compte) return Ajoute(valeur);
+        Maillon* precedent = Tete;
+        while (--rang > 0)
+            precedent = precedent->Suivant;
+        precedent->Suivant = new Maillon{valeur, precedent->Suivant};
+        ++Compte;
+    }
+
+    /// Number of values before valeur; that of all when it is not there.
+    int Rang(const T* valeur) const {
+        int rang = 0;
+        for (const Maillon* m = Tete; m && m->Valeur != valeur; m = m->Suivant)
+            ++rang;
+        return rang;
+    }
+
     /// Unlinks the first node that holds valeur, which is left alone. False when there is none.
     bool Retire(const T* valeur) {
         Maillon* precedent = nullptr;

@@ -9,28 +9,31 @@ PasAjout::PasAjout(std::unique_ptr<EltGeo> elt) : Sorti(std::move(elt)), Cible(S
 void PasAjout::Fait(BDDGeo& bdd) {
     if (!Sorti) return;
     Sorti->ReferenceFils();
-    bdd.AjouteDebut(std::move(Sorti));
+    bdd.Insere(std::move(Sorti), Rang);
 }
 
 void PasAjout::Defait(BDDGeo& bdd) {
+    Rang = bdd.Elements.Rang(Cible);
     Sorti = bdd.Detache(Cible, true);
 }
 
 PasCollage::PasCollage(std::vector<std::unique_ptr<EltGeo>> elements)
-    : Sortis(std::move(elements)) {
+    : Sortis(std::move(elements)), Rangs(Sortis.size(), 0) {
     for (const auto& elt : Sortis)
         Cibles.push_back(elt.get());
 }
 
 void PasCollage::Fait(BDDGeo& bdd) {
-    for (auto& elt : Sortis)
-        if (elt) bdd.AjouteDebut(std::move(elt));
+    for (std::size_t rang = 0; rang < Sortis.size(); ++rang)
+        if (Sortis[rang]) bdd.Insere(std::move(Sortis[rang]), Rangs[rang]);
 }
 
 void PasCollage::Defait(BDDGeo& bdd) {
     // From the head on, where each is found at once.
-    for (std::size_t rang = Cibles.size(); rang-- > 0;)
+    for (std::size_t rang = Cibles.size(); rang-- > 0;) {
+        Rangs[rang] = bdd.Elements.Rang(Cibles[rang]);
         Sortis[rang] = bdd.Detache(Cibles[rang], true);
+    }
 }
 
 void PasRetrait::Fait(BDDGeo& bdd) {
@@ -64,11 +67,12 @@ void PasChange::Fait(BDDGeo& bdd) {
 }
 
 void PasLien::Fait(BDDGeo&) {
-    Parent->AjouteFils(Fils);
+    if (Lie) Parent->AjouteFils(Fils);
 }
 
 void PasLien::Defait(BDDGeo&) {
-    if (Parent->Fils.Contient(Fils)) Parent->RetireFils(Fils);
+    Lie = Parent->Fils.Contient(Fils);
+    if (Lie) Parent->RetireFils(Fils);
 }
 
 void PasEnsemble::Fait(BDDGeo& bdd) {

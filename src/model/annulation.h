@@ -18,7 +18,7 @@ class Pas {
     virtual void Defait(BDDGeo& bdd) = 0;
 };
 
-/// A new element enters at the head.
+/// A new element enters at the head; done again, where it was undone.
 class PasAjout : public Pas {
   public:
     explicit PasAjout(std::unique_ptr<EltGeo> elt);
@@ -31,9 +31,11 @@ class PasAjout : public Pas {
   private:
     std::unique_ptr<EltGeo> Sorti;
     EltGeo* const Cible;
+    int Rang = 0;  ///< Where it enters.
 };
 
-/// Elements are pasted: the last of them comes to stand at the head.
+/// Elements are pasted: the last of them comes to stand at the head; done again, where they were
+/// undone.
 class PasCollage : public Pas {
   public:
     explicit PasCollage(std::vector<std::unique_ptr<EltGeo>> elements);
@@ -43,6 +45,7 @@ class PasCollage : public Pas {
   private:
     std::vector<std::unique_ptr<EltGeo>> Sortis;
     std::vector<EltGeo*> Cibles;  ///< The same, wherever they are.
+    std::vector<int> Rangs;       ///< Where each enters, behind those before it.
 };
 
 /// An element is deleted, and lets go of its children. Undone it comes back at the tail and not at
@@ -93,6 +96,7 @@ class PasLien : public Pas {
   private:
     EltGeo* const Parent;
     EltGeo* const Fils;
+    bool Lie = true;  ///< The link is to be made: the parent may have lost the child on the way.
 };
 
 /// Several steps that are one to the user.

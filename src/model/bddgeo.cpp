@@ -29,6 +29,16 @@ EltGeo* BDDGeo::AjouteFin(std::unique_ptr<EltGeo> elt) {
     return BDDGeoBase::AjouteFin(std::move(elt));
 }
 
+void BDDGeo::Insere(std::unique_ptr<EltGeo> elt, int rang) {
+    if (rang == 0) {
+        AjouteDebut(std::move(elt));
+        return;
+    }
+    Modifie = true;
+    Table.Perime();
+    Elements.Insere(elt.release(), rang);
+}
+
 void BDDGeo::Vide() {
     Retrait.emit(nullptr);
     DernierTrouve = nullptr;

@@ -138,6 +138,9 @@ class BDDGeo : public BDDGeoBase {
 
     // What the steps of the history are made of: nothing is remembered.
 
+    /// Takes an element in behind the first rang ones.
+    void Insere(std::unique_ptr<EltGeo> elt, int rang);
+
     /// Takes an element out of the list and out of every child list; the caller owns it then. It
     /// lets go of its own children, which it keeps in its list where garde is true. Null when the
     /// list has no such element.
