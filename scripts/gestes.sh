@@ -252,7 +252,7 @@ couleur() {
     attend "Couleur"
     xdotool key --delay 40 alt+n ctrl+a
     tape "$1"
-    xdotool key --delay 40 Return Tab Tab Return  # Past Annuler to Valider.
+    xdotool key Return
     revient
 }
 

@@ -3,10 +3,14 @@
 #include <glibmm/convert.h>
 #include <glibmm/fileutils.h>
 #include <glibmm/miscutils.h>
+#include <gtkmm/button.h>
 #include <gtkmm/filechooserdialog.h>
 #include <gtkmm/filefilter.h>
+#include <gtkmm/label.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/stock.h>
+
+#include <vector>
 
 namespace {
 
@@ -45,7 +49,26 @@ bool AccepteRemplacement(Gtk::Window& parente, const std::string& nom) {
     return question.run() == Gtk::RESPONSE_OK;
 }
 
+/// The labels below a widget, itself included.
+void RecolteLibelles(Gtk::Widget& racine, std::vector<Gtk::Label*>& libelles) {
+    if (auto* libelle = dynamic_cast<Gtk::Label*>(&racine)) libelles.push_back(libelle);
+    if (auto* boite = dynamic_cast<Gtk::Container*>(&racine))
+        for (Gtk::Widget* enfant : boite->get_children())
+            RecolteLibelles(*enfant, libelles);
+}
+
 }  // namespace
+
+void AjouteNon(Gtk::Dialog& question) {
+    Gtk::Button* non = question.add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
+    std::vector<Gtk::Label*> siens, libelles;
+    RecolteLibelles(*non, siens);
+    RecolteLibelles(question, libelles);
+    for (Gtk::Label* libelle : libelles)
+        if (libelle != siens.front() &&
+            libelle->get_mnemonic_keyval() == siens.front()->get_mnemonic_keyval())
+            libelle->set_text(libelle->get_text());
+}
 
 std::string ChoisitLecture(Gtk::Window& parente, const GenreFichier& genre,
                            const std::string& voisin) {
@@ -64,7 +87,7 @@ int ChoisitEcriture(Gtk::Window& parente, const GenreFichier& genre, const std::
                    ? Gtk::FILE_CHOOSER_CONFIRMATION_CONFIRM
                    : Gtk::FILE_CHOOSER_CONFIRMATION_ACCEPT_FILENAME;
     });
-    if (refus) choix.add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
+    if (refus) AjouteNon(choix);
     for (;;) {
         const int reponse = choix.run();
         if (reponse != Gtk::RESPONSE_OK) return reponse;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gtkmm/window.h>
+#include <gtkmm/dialog.h>
 
 #include <string>
 
@@ -17,6 +17,10 @@ struct GenreFichier {
 /// Asks for a file to read; empty when the user gives up.
 std::string ChoisitLecture(Gtk::Window& parente, const GenreFichier& genre,
                            const std::string& voisin);
+
+/// Adds the button "Non", answering `Gtk::RESPONSE_NO`, and leaves it alone with its letter: words
+/// of the toolkit share it, and a letter of several does nothing but move the focus among them.
+void AjouteNon(Gtk::Dialog& question);
 
 /// Asks for a file to write, and again until an existing one may be replaced. The answer is
 /// `Gtk::RESPONSE_OK`, with the name, its extension ensured, in `nom`; `Gtk::RESPONSE_NO` from the

@@ -35,9 +35,8 @@ void EltGeoDialog::RangeLigne() {
     Ligne.pack_start(Calque);
     Ligne.pack_start(BoutonTrait, Gtk::PACK_SHRINK);
     Ligne.pack_start(BoutonCouleur, Gtk::PACK_SHRINK);
-    BoutonTrait.signal_clicked().connect(sigc::mem_fun(*this, &EltGeoDialog::DemandeTrait));
-    BoutonCouleur.signal_clicked().connect(
-        sigc::mem_fun(*this, &EltGeoDialog::DemandeCouleurTrait));
+    BrancheQuestion(BoutonTrait, sigc::mem_fun(*this, &EltGeoDialog::DemandeTrait));
+    BrancheQuestion(BoutonCouleur, sigc::mem_fun(*this, &EltGeoDialog::DemandeCouleurTrait));
     // Below the rows that derived dialogs add.
     get_vbox()->pack_end(Ligne, Gtk::PACK_SHRINK);
     Ligne.show_all();

@@ -65,6 +65,13 @@ void SaisieDialog::Branche(ChampSaisie& champ) {
     champ.signal_activate().connect([this] { response(Gtk::RESPONSE_OK); });
 }
 
+void SaisieDialog::BrancheQuestion(Gtk::Button& bouton, const sigc::slot<void>& question) {
+    bouton.signal_clicked().connect([this, question] {
+        question();
+        set_focus(*get_widget_for_response(Gtk::RESPONSE_OK));
+    });
+}
+
 void SaisieDialog::AjouteLigne(ChampSaisie& champ) {
     champ.set_width_chars(24);
     Branche(champ);

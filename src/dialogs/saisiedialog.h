@@ -58,6 +58,10 @@ class SaisieDialog : public Gtk::Dialog {
     /// The Enter key in the field validates.
     void Branche(ChampSaisie& champ);
 
+    /// The button asks a question of its own. Behind it the Enter key validates instead of asking
+    /// once more.
+    void BrancheQuestion(Gtk::Button& bouton, const sigc::slot<void>& question);
+
   private:
     /// The first row of the table that is free.
     guint RangLibre();

@@ -48,7 +48,7 @@ void TraitDialog::RangeSurface() {
     for (Gtk::CheckButton* coche : {&Remplissage, &Contour, &Hachure})
         LigneSurface.pack_start(*coche, Gtk::PACK_SHRINK);
     LigneSurface.pack_end(BoutonFond, Gtk::PACK_SHRINK);
-    BoutonFond.signal_clicked().connect(sigc::mem_fun(*this, &TraitDialog::DemandeFond));
+    BrancheQuestion(BoutonFond, sigc::mem_fun(*this, &TraitDialog::DemandeFond));
 }
 
 void TraitDialog::DemandeFond() {

@@ -81,7 +81,7 @@ void MiseEnPageDialog::RangeCartouche() {
     ligne->pack_start(BoutonParcours, Gtk::PACK_SHRINK);
     ligne->show_all();
     AjouteChamp("Cartouche :", *ligne);
-    BoutonParcours.signal_clicked().connect(sigc::mem_fun(*this, &MiseEnPageDialog::Parcourt));
+    BrancheQuestion(BoutonParcours, sigc::mem_fun(*this, &MiseEnPageDialog::Parcourt));
 }
 
 void MiseEnPageDialog::Parcourt() {

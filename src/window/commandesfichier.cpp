@@ -31,7 +31,7 @@ class QuestionEnregistrer : public Gtk::MessageDialog {
     explicit QuestionEnregistrer(Gtk::Window& parente)
         : Gtk::MessageDialog(parente, Texte(), false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_OK_CANCEL,
                              true) {
-        add_button(Gtk::Stock::NO, Gtk::RESPONSE_NO);
+        AjouteNon(*this);
         set_default_response(Gtk::RESPONSE_OK);
     }
 

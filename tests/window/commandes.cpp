@@ -255,8 +255,16 @@ TEST(Fermeture, NeFermeQueSiOnLeVeut) {
     EXPECT_FALSE(FermeParLeGestionnaire(bureau));
     RepondDialogue(Gtk::RESPONSE_CANCEL);
     EXPECT_FALSE(FermeParLeGestionnaire(bureau));
-    RepondDialogue(Gtk::RESPONSE_NO);
-    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture());
+    const auto repondNon = Glib::signal_timeout().connect(
+        [] {
+            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels())
+                if (dynamic_cast<Gtk::FileChooserDialog*>(fenetre) && fenetre->get_mapped())
+                    fenetre->mnemonic_activate(GDK_n, Gdk::MOD1_MASK);
+            return true;
+        },
+        100);
+    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "the letter of its button";
+    sigc::connection(repondNon).disconnect();
     EXPECT_TRUE(BddCourante.Modifie);
 
     // With a name: the question.

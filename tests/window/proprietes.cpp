@@ -240,7 +240,9 @@ TEST(Proprietes, LeTraitSuitLaRegleDeLaClasse) {
                     dynamic_cast<Gtk::ColorSelectionDialog&>(palette)
                         .get_color_selection()
                         ->set_current_color(Gdk::Color("#ff0000"));
+                    EXPECT_TRUE(palette.activate_default()) << "Enter answers";
                 });
+                EXPECT_EQ(dialogue.get_focus(), dialogue.get_widget_for_response(Gtk::RESPONSE_OK));
             });
             elt->Proprietes();
             const bool pris = reponse == Gtk::RESPONSE_OK;
