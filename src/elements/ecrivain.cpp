@@ -7,8 +7,10 @@ namespace {
 
 constexpr std::size_t TailleNombre = 32;
 
+constexpr int ChiffresFichier = 6;
+
 /// Writes the number into the buffer and answers its end.
-char* Chiffre(char (&chiffres)[TailleNombre], double valeur, int nombre = 6) {
+char* Chiffre(char (&chiffres)[TailleNombre], double valeur, int nombre = ChiffresFichier) {
     // No sign on a zero.
     const double fini = std::isfinite(valeur) ? valeur + 0.0 : 0.0;
     return std::to_chars(chiffres, chiffres + TailleNombre, fini, std::chars_format::general,
@@ -50,4 +52,9 @@ double CommeEcrit(double valeur) {
     double lue = 0.0;
     std::from_chars(chiffres, Chiffre(chiffres, valeur), lue);
     return lue;
+}
+
+double EcartEcrit(double valeur) {
+    if (valeur == 0.0 || !std::isfinite(valeur)) return 0.0;
+    return 0.5 * std::pow(10.0, std::floor(std::log10(std::abs(valeur))) - (ChiffresFichier - 1));
 }

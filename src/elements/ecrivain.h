@@ -7,6 +7,9 @@
 /// The value that a reader finds where this one was written.
 double CommeEcrit(double valeur);
 
+/// How far that can be from any value of this size: half a unit of the last digit that is written.
+double EcartEcrit(double valeur);
+
 /// Builds the text of a file: numbers with a decimal point whatever the locale, doubles in the
 /// shorter of fixed and exponent form, with at most 6 significant digits in files.
 class Ecrivain {

@@ -44,6 +44,15 @@ std::string DouzeChiffres(double valeur) {
     return std::string(static_cast<const char*>(chiffres), fin);
 }
 
+/// The value, or the next step of the decimals that are shown, where that is no farther than the
+/// blur, nor than the step below.
+double PasAtteint(double valeur, double flou) {
+    if (NbDecimales < 0) return valeur;
+    const double pas = std::pow(10.0, -NbDecimales);
+    const double suivant = std::ceil(valeur / pas) * pas;
+    return suivant - valeur <= std::min(flou, pas / 2.0) ? suivant : valeur;
+}
+
 }  // namespace
 
 void DessineFleche(Trace& trace, const PointVek& pointe, const PointVek& direction) {
@@ -185,11 +194,17 @@ void EltCote::PlaceLigne(const PointVek& p) {
 }
 
 Glib::ustring EltCote::TexteValeur() const {
-    std::string texte = DouzeChiffres(Valeur());
+    std::string texte = DouzeChiffres(PasAtteint(Valeur(), Flou()));
     const std::size_t point = texte.find('.');
     if (point != std::string::npos && NbDecimales >= 0)
         texte.resize(std::min(texte.size(), point + 1 + static_cast<std::size_t>(NbDecimales)));
     return texte;
+}
+
+double EltCote::Flou() const {
+    const PointVek u = Direction();
+    return std::abs(u.x) * (EcartEcrit(Point1.x) + EcartEcrit(Point2.x)) +
+           std::abs(u.y) * (EcartEcrit(Point1.y) + EcartEcrit(Point2.y));
 }
 
 double EltCote::AngleCote() const {

@@ -44,6 +44,8 @@ class EltCote : public EltTxt {
     virtual void PlaceLigne(const PointVek& p);
 
     /// The value as it is shown: 12 significant digits, then cut, not rounded, to `NbDecimales`.
+    /// What the digits of a file may have taken from it is given back before the cut, so that a
+    /// dimension reads the same before and after a drawing is saved.
     virtual Glib::ustring TexteValeur() const;
 
     PointVek Point1;
@@ -52,6 +54,9 @@ class EltCote : public EltTxt {
   protected:
     /// Angle of the text in radians.
     virtual double AngleCote() const;
+
+    /// How far the value may be from that of the points before they were written to a file.
+    virtual double Flou() const;
 
     /// Farthest that the lines reach from `Position`, in drawing units.
     virtual double PorteeLignes() const;

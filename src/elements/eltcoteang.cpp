@@ -157,6 +157,17 @@ double EltCoteAng::AngleCote() const {
     return angle > Pi ? angle - DeuxPi : angle;
 }
 
+double EltCoteAng::Flou() const {
+    const PointVek a = Extremite1 - Sommet, b = Extremite2 - Sommet;
+    if (!(Scalaire(a, a) > 0.0) || !(Scalaire(b, b) > 0.0)) return 0.0;
+    // How much the angle of each side turns with its end; the apex turns both.
+    const PointVek pa = Normale(a) / Scalaire(a, a), pb = Normale(b) / Scalaire(b, b);
+    const auto part = [](const PointVek& pente, const PointVek& p) {
+        return std::abs(pente.x) * EcartEcrit(p.x) + std::abs(pente.y) * EcartEcrit(p.y);
+    };
+    return EnDegres(part(pa, Extremite1) + part(pb, Extremite2) + part(pb - pa, Sommet));
+}
+
 double EltCoteAng::PorteeLignes() const {
     return std::max({::Distance(Position, Sommet) + ::Distance(Sommet, Extremite2),
                      ::Distance(Position, Extremite1), ::Distance(Position, Point1),

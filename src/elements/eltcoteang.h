@@ -45,6 +45,7 @@ class EltCoteAng : public EltCote {
 
   protected:
     double AngleCote() const override;
+    double Flou() const override;
     double PorteeLignes() const override;
     void DessineLignes(Trace& trace) const override;
 

@@ -67,6 +67,11 @@ TEST(EltCote, ValeursMontreesEtTexteAutomatique) {
     EXPECT_EQ(montre(1e-5, 15), "0.00001");
     EXPECT_EQ(montre(1e22, 2), "1" + std::string(22, '0'));
 
+    EXPECT_EQ(montre(199.996, 2), "199.99");
+    EXPECT_EQ(montre(199.99996, 2), "200");
+    EXPECT_EQ(montre(1999.96, 1), "1999.9");
+    EXPECT_EQ(montre(0.9999996, 2), "1");
+
     auto cote = Entre<EltCote>({-30, 0}, {20.129, 0}, {0, 20});
     const auto image = [&cote](const char* texte) {
         cote.Texte = texte;
@@ -102,6 +107,31 @@ TEST(EltCote, LigneEtValeurSelonLeSens) {
     EXPECT_TRUE(Entre<EltCoteHori>({7, 7}, {7, 90}, {0, 0}).EstValide());
     EXPECT_TRUE(Entre<EltCoteVert>({7, 7}, {90, 7}, {0, 0}).EstValide());
     EXPECT_FALSE(Entre<EltCoteHori>({7, 7}, {HUGE_VAL, 90}, {0, 0}).EstValide());
+}
+
+TEST(EltCote, ValeurRondeApresEnregistrement) {
+    const auto relue = [](const EltCote& cote) {
+        const auto elt = Relu(Record(cote));
+        auto& lue = static_cast<EltCote&>(*elt);
+        return std::stod(lue.TexteValeur());
+    };
+    Hasard hasard(7);
+    for (int tour = 0; tour < 300; ++tour) {
+        const PointVek p = hasard.Point(400);
+        const double debut = hasard.Reel(0.0, DeuxPi);
+        const PointVek q = PointPolaire(p, 200, debut);
+        SCOPED_TRACE(testing::Message() << p.x << ' ' << p.y << ' ' << debut);
+        EXPECT_EQ(relue(Entre<EltCote>(p, q, p)), 200);
+        EXPECT_EQ(relue(Entre<EltCoteHori>(p, {p.x - 37.25, q.y}, p)), 37.25);
+        EXPECT_EQ(relue(Entre<EltCoteVert>(p, {q.x, p.y + 37.25}, p)), 37.25);
+        EltCoteDia dia;
+        dia.DepuisArc(EltArc(p, 100, debut, 1, 0));
+        EXPECT_EQ(relue(dia), 200);
+        EltCoteRayon rayon;
+        rayon.DepuisArc(EltArc(p, 100, debut, 1, 0));
+        EXPECT_EQ(relue(rayon), 100);
+        EXPECT_EQ(relue(Angle(p, p, q, PointPolaire(p, 50, debut + EnRadians(30)))), 30);
+    }
 }
 
 TEST(EltCoteAng, QuadrantsEtMiroirs) {
