@@ -133,8 +133,10 @@ LecteurAncien::Element LecteurAncien::LitAnnotation() {
     elt->SetTexte(texte);
     elt->Police = police;
     elt->SetTaille(std::abs(tete.Mesure));
-    // Last, since the measures bring the text to a place of their own.
+    // Last, since the measures bring the text to a place of their own. That of an angle stays on
+    // its arc, where the next file puts it: the drawing looks the same when it is opened again.
     elt->Place(tete.Position);
+    elt->Recalcule();
     return elt;
 }
 

@@ -107,7 +107,7 @@ TEST(LecteurAncien, CotesEtTextes) {
         "7: 16 9 0 | côté 12,5 | 0 3.5 0 | Arial | 10 5 0 22.5 5 0",
         "10: 15 -4 0 | * | 0 3 0 | Sans | 10 5 0 20 15 0",
         "9: 25 12 0 | 10 | 1.5708 3 0 |  | 10 5 0 20 15 0",
-        // A file keeps this one's text on the middle of its arc.
+        // The text of this one comes in where a file keeps it, on the middle of its arc.
         "8: 1.41421 9.89949 0 | 90° | -0.141897 4 0 | Arial | 0 0 0 0 0 0 | 0 0 0 8 6 0 -6 8 0",
         "12: 60 8 0 | R5 | 0 4 0 | Arial | 53 4 0 50 0 0",
         "11: 40 8 0 | Ø10 | 0 4 0 | Arial | 53 4 0 47 -4 0",
@@ -115,10 +115,16 @@ TEST(LecteurAncien, CotesEtTextes) {
         "6: -6 -9 0 | dernier | 0 2.5 0 | Arial",
     };
     EXPECT_EQ(Resume(bdd), attendus);
-    const EltGeo* angle = bdd.ChercheType({6, 7}, 8);
+    // Each stands where it stands once it has been saved and opened.
+    BDDGeo relu;
+    relu.ChargeTexte(bdd.SauveTexte());
+    const EltGeo* angle = nullptr;
+    auto apres = relu.Elements.begin();
+    for (const EltGeo* avant : bdd.Elements) {
+        EXPECT_LT(Distance(avant->Position, (*apres++)->Position), 1e-5) << avant->Type;
+        if (avant->Type == TypeCoteAng) angle = avant;
+    }
     ASSERT_TRUE(angle);
-    EXPECT_EQ(angle->Position.x, 6);
-    EXPECT_EQ(angle->Position.y, 7);
     EXPECT_DOUBLE_EQ(static_cast<const EltCote*>(angle)->Valeur(), 90);
 
     const std::string texte = Contenu(nom);
