@@ -78,7 +78,7 @@ std::string ChoisitLecture(Gtk::Window& parente, const GenreFichier& genre,
 }
 
 int ChoisitEcriture(Gtk::Window& parente, const GenreFichier& genre, const std::string& voisin,
-                    std::string& nom, bool refus) {
+                    std::string& nom, bool refus, const std::string& propose) {
     ChoixFichier choix(parente, genre, voisin, Gtk::FILE_CHOOSER_ACTION_SAVE);
     choix.set_do_overwrite_confirmation(true);
     // The chooser asks about the name as it was typed, which may not be the one to write.
@@ -88,6 +88,7 @@ int ChoisitEcriture(Gtk::Window& parente, const GenreFichier& genre, const std::
                    : Gtk::FILE_CHOOSER_CONFIRMATION_ACCEPT_FILENAME;
     });
     if (refus) AjouteNon(choix);
+    if (!propose.empty()) choix.set_current_name(Glib::filename_display_name(propose));
     for (;;) {
         const int reponse = choix.run();
         if (reponse != Gtk::RESPONSE_OK) return reponse;

@@ -24,6 +24,7 @@ void AjouteNon(Gtk::Dialog& question);
 
 /// Asks for a file to write, and again until an existing one may be replaced. The answer is
 /// `Gtk::RESPONSE_OK`, with the name, its extension ensured, in `nom`; `Gtk::RESPONSE_NO` from the
-/// further button that `refus` asks for; anything else when the user gives up.
+/// further button that `refus` asks for; anything else when the user gives up. propose: a name of
+/// the file's own to begin with; empty for none.
 int ChoisitEcriture(Gtk::Window& parente, const GenreFichier& genre, const std::string& voisin,
-                    std::string& nom, bool refus = false);
+                    std::string& nom, bool refus = false, const std::string& propose = {});

@@ -210,9 +210,11 @@ bool Recuperation::Ecrit(const char* raison) {
 
 bool Recuperation::Garde(const char* raison) {
     if (!Bdd.AEnregistrer() || Bdd.Elements.Nombre() == 0) return true;
-    const bool garde = PrepareDossier() && EcritVers(NomNeuf(), raison);
-    if (garde) Elague();
-    return garde;
+    if (ChangementsGardes == Bdd.Changements()) return true;
+    if (!PrepareDossier() || !EcritVers(NomNeuf(), raison)) return false;
+    ChangementsGardes = Bdd.Changements();
+    Elague();
+    return true;
 }
 
 void Recuperation::Oublie() {

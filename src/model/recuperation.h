@@ -45,7 +45,7 @@ class Recuperation {
     bool Ecrit(const char* raison);
 
     /// The drawing is about to be replaced or given up: what is not saved of it stays as a copy
-    /// beside the running ones. False when it should and could not.
+    /// beside the running ones, once for each state of it. False when it should and could not.
     bool Garde(const char* raison);
 
     /// The drawing is on disk, or was given up knowingly: takes the running copy away.
@@ -88,6 +88,7 @@ class Recuperation {
     std::vector<std::unique_ptr<Verrou>> Adoptees;  ///< Those of the copies left behind.
     unsigned long DerniersChangements = 0;          ///< The drawing's count at the last copy.
     bool DejaEcrit = false;
+    unsigned long ChangementsGardes = 0;  ///< The drawing's count at the last kept copy; 0: none.
     double DerniereFin = 0.0;    ///< Seconds on a clock that never goes back.
     double DerniereDuree = 0.0;  ///< What the last copy took, in seconds.
 };

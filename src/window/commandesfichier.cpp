@@ -128,7 +128,9 @@ void DessinWindow::Save() {
 
 void DessinWindow::SaveAs() {
     std::string nom;
-    if (ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom) != Gtk::RESPONSE_OK) return;
+    if (ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom, false, NomPropose) !=
+        Gtk::RESPONSE_OK)
+        return;
     ApresEcriture(BddCourante.EnregistreSous(nom));
 }
 
@@ -179,7 +181,7 @@ bool DessinWindow::ConfirmeFermeture() {
     if (!BddCourante.AEnregistrer()) return true;
     std::string nom = BddCourante.NomFichier;
     const int reponse = BddCourante.Nomme ? QuestionEnregistrer(*this).run()
-                                          : ChoisitEcriture(*this, Ecriture, nom, nom, true);
+                                          : ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom, true, NomPropose);
     if (reponse == Gtk::RESPONSE_OK) {
         if (!ApresEcriture(BddCourante.EnregistreSous(nom))) return false;
         LaisseEcrireRecents();

@@ -50,8 +50,9 @@ DessinWindow::DessinWindow()
     BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
     AfficheCalques();
     Bord.add(Messages);
-    Cadre.attach(Zone, 0, 1, 0, 1);
+    // The widget that is put in last lies underneath.
     Cadre.attach(Bord, 0, 1, 0, 1);
+    Cadre.attach(Zone, 0, 1, 0, 1);
     BoiteVerticale.pack_start(Cadre, Gtk::PACK_EXPAND_WIDGET);
     Zone.set_size_request(-1, -1);
     modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#F0F0D0"));

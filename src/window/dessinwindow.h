@@ -156,6 +156,7 @@ class DessinWindow : public Gtk::Window {
     Window3D Fenetre3D;
     Gtk::Table Cadre;     ///< The drawing area with the strip over its upper edge.
     Gtk::Alignment Bord;  ///< Of the strip.
+    std::string NomPropose;  ///< For the first save of a drawing that was taken back.
     bool SecoursPrevu = false;
     bool SansSecoursDit = false;
     Gtk::VBox BoiteVerticale;

@@ -3,6 +3,7 @@
 
 #include <glib-unix.h>
 #include <glibmm/main.h>
+#include <glibmm/miscutils.h>
 #include <gtkmm/main.h>
 
 #include <cerrno>
@@ -92,10 +93,11 @@ bool DessinWindow::ApresEcriture(bool ecrit) {
     MetTitre();
     if (ecrit) {
         Secours.Oublie();
+        NomPropose.clear();
         return true;
     }
     const Glib::ustring raison = Raison(erreur);
-    const bool garde = Secours.Ecrit("Enregistrement impossible");
+    const bool garde = Secours.Garde("Enregistrement impossible");
     Messages.Dit(EntreGuillemets(BddCourante.NomFichier) + " n'a pas pu être écrit" +
                      (raison.empty() ? ". " : " : " + raison + ". ") +
                      (garde ? "Une copie est gardée." : "Aucune copie n'a pu être gardée."),
@@ -117,12 +119,11 @@ bool DessinWindow::Abandonne() {
         if (!DemandeEnregistrement()) return false;
     }
     Secours.Oublie();
+    NomPropose.clear();
     return true;
 }
 
 void DessinWindow::RecupereDessin() {
-    // What this very drawing has not saved is in the list too.
-    Secours.Ecrit("Travail en cours");
     RecuperationDialog dialogue(*this, Secours.Gardees());
     if (const auto copie = dialogue.Demande()) {
         dialogue.hide();
@@ -147,6 +148,7 @@ void DessinWindow::Reprend(const CopieSecours& copie) {
     const std::string texte = Recuperation::Texte(copie);
     if (!PeutRemplacer(true) || !Abandonne()) return;
     BddCourante.Recupere(texte, copie.Nom);
+    if (!copie.Nom.empty()) NomPropose = Glib::path_get_basename(copie.Nom);
     Zone.Outils.Recommence();
     MetTitre();
     Secours.Ecrit("Travail en cours");

@@ -48,6 +48,17 @@ void Bandeau::CompteCommande() {
     if (get_visible() && ++Commandes >= CommandesMax) Cache();
 }
 
+void Bandeau::on_size_allocate(Gtk::Allocation& place) {
+    Gtk::EventBox::on_size_allocate(place);
+    // The words take what the buttons leave, on as many lines as they need.
+    constexpr int marges = 40;
+    const int largeur =
+        place.get_width() - Barre.get_action_area()->get_allocation().get_width() - marges;
+    int demandee = 0, hauteur = 0;
+    Libelle.get_size_request(demandee, hauteur);
+    if (largeur > 0 && largeur != demandee) Libelle.set_size_request(largeur, -1);
+}
+
 bool Bandeau::on_button_press_event(GdkEventButton*) {
     Cache();
     return true;
