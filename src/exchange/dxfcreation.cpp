@@ -70,14 +70,15 @@ Element CreeTxt(const EntiteDxf& entite) {
     txt->SetTexte(EnTexte(entite.Texte));
     if (!entite.Style.empty()) txt->Police = EnTexte(entite.Style);
     txt->Place(entite.Points[0]);
-    txt->Angle = EnRadians(entite.Angle1);
-    txt->SetTaille(entite.Hauteur);
+    txt->Angle = EnRadians(entite.Reel(50));
+    txt->SetTaille(entite.Reel(40));
     return txt;
 }
 
 Element CreeRond(const EntiteDxf& entite, double debut, double ouverture) {
-    if (!(entite.Hauteur > 0.0)) return nullptr;
-    return std::make_unique<EltArc>(entite.Points[0], entite.Hauteur, debut, ouverture, 0);
+    const double rayon = entite.Reel(40);
+    if (!(rayon > 0.0)) return nullptr;
+    return std::make_unique<EltArc>(entite.Points[0], rayon, debut, ouverture, 0);
 }
 
 Element CreeCercle(const EntiteDxf& entite) {
@@ -86,8 +87,8 @@ Element CreeCercle(const EntiteDxf& entite) {
 
 Element CreeArc(const EntiteDxf& entite) {
     constexpr double epsilon = 1e-6;
-    const double debut = AngleReduit(EnRadians(entite.Angle1), epsilon);
-    const double ouverture = AngleReduit(EnRadians(entite.Angle2 - entite.Angle1), epsilon);
+    const double debut = AngleReduit(EnRadians(entite.Reel(50)), epsilon);
+    const double ouverture = AngleReduit(EnRadians(entite.Reel(51) - entite.Reel(50)), epsilon);
     // An arc that ends where it begins goes all around.
     return CreeRond(entite, debut, ouverture < epsilon ? DeuxPi : ouverture);
 }
@@ -96,8 +97,9 @@ Element CreeImage(const EntiteDxf& entite) {
     auto image = std::make_unique<EltImage>();
     image->Place(entite.Points[0]);
     image->SetIdentificateur(EnTexte(entite.Nom));
-    image->Angle = EnRadians(entite.Angle1);
-    image->Agrandissement = entite.EchelleX == 0.0 ? 1.0 : std::abs(entite.EchelleX);
+    image->Angle = EnRadians(entite.Reel(50));
+    const double echelle = entite.Reel(41, 1.0);
+    image->Agrandissement = echelle == 0.0 ? 1.0 : std::abs(echelle);
     return image;
 }
 

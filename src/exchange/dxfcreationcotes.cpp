@@ -32,9 +32,9 @@ bool EstProche(double angle, double degres) {
 
 Cote CreeLineaire(const EntiteDxf& entite) {
     Cote cote;
-    if (EstProche(entite.Angle1, 0.0))
+    if (EstProche(entite.Reel(50), 0.0))
         cote = std::make_unique<EltCoteHori>();
-    else if (EstProche(entite.Angle1, 90.0))
+    else if (EstProche(entite.Reel(50), 90.0))
         cote = std::make_unique<EltCoteVert>();
     else
         cote = std::make_unique<EltCote>();

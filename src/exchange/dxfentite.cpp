@@ -28,6 +28,11 @@ void EntiteDxf::Range(int code, std::string_view valeur) {
             RangeZ(rang, EnReel(valeur));
         return;
     }
+    const auto reel = static_cast<std::size_t>(code - PremierReel);
+    if (code >= PremierReel && reel < Reels.size()) {
+        Reels[reel] = valeur;
+        return;
+    }
     switch (code) {
         case 1:
             Texte = valeur;
@@ -40,18 +45,6 @@ void EntiteDxf::Range(int code, std::string_view valeur) {
             break;
         case 7:
             Style = valeur;
-            break;
-        case 40:
-            Hauteur = EnReel(valeur);
-            break;
-        case 41:
-            EchelleX = EnReel(valeur);
-            break;
-        case 50:
-            Angle1 = EnReel(valeur);
-            break;
-        case 51:
-            Angle2 = EnReel(valeur);
             break;
         case 62:
             Couleur = EnEntier(valeur);
@@ -66,6 +59,11 @@ void EntiteDxf::Range(int code, std::string_view valeur) {
             CouleurVraie = EnCouleur(valeur);
             break;
     }
+}
+
+double EntiteDxf::Reel(int code, double sinon) const {
+    const std::string_view valeur = Reels.at(static_cast<std::size_t>(code - PremierReel));
+    return valeur.data() ? EnReel(valeur) : sinon;
 }
 
 void EntiteDxf::RangeX(std::size_t rang, double x) {

@@ -21,6 +21,9 @@ struct EntiteDxf {
         return Donne[rang] ? Points[rang] : sinon;
     }
 
+    /// The number of a group from 40 to 59, angles in degrees, where the entity gives it.
+    double Reel(int code, double sinon = 0.0) const;
+
     std::string_view Genre;          ///< Name of the entity, group 0.
     std::string_view Texte;          ///< Group 1.
     std::string_view Nom;            ///< Of a block, group 2.
@@ -29,23 +32,22 @@ struct EntiteDxf {
     std::array<PointVek, 7> Points;  ///< Groups 10, 20, 30 to 16, 26, 36.
     std::array<bool, 7> Donne = {};  ///< Whether the entity gives the point.
     std::vector<PointVek> Sommets;   ///< Each 10, 20 behind the first; at height 0.
-    double Hauteur = 0.0;            ///< Or radius, group 40.
-    double EchelleX = 1.0;           ///< Group 41.
-    double Angle1 = 0.0;             ///< Degrees, group 50.
-    double Angle2 = 0.0;             ///< Degrees, group 51.
     int Couleur = -1;                ///< Index, group 62.
     int Drapeaux = 0;                ///< Group 70.
     int NbSommets = 0;               ///< Group 90.
     int CouleurVraie = 0;            ///< 0xrrggbb, group 420.
 
   private:
+    static constexpr int PremierReel = 40;
+
     void Range(int code, std::string_view valeur);
     void RangeX(std::size_t rang, double x);
     void RangeY(std::size_t rang, double y);
     void RangeZ(std::size_t rang, double z);
 
-    bool DonneY = false;  ///< Whether the first point has its y.
-    PointVek Travail;     ///< The vertex that is being read.
+    std::array<std::string_view, 20> Reels;  ///< Groups 40 to 59, as they stand in the text.
+    bool DonneY = false;                     ///< Whether the first point has its y.
+    PointVek Travail;                        ///< The vertex that is being read.
     bool EnSommets = false;
 };
 

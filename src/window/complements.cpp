@@ -3,16 +3,15 @@
 #include "window/complements.h"
 
 #include "window/dessinwindow.h"
+#include "window/lignes.h"
 
 const std::vector<Commande<DessinWindow>>& TableComplements() {
-    using Ligne = Commande<DessinWindow>;
     static const std::vector<Ligne> table = {
-        Ligne(Ligne::Menu, "MenuComplements", "Co_mpléments")
-            .Contient({
-                Ligne(Ligne::Simple, "RecupereDessin", "_Récupérer un dessin…",
-                      &DessinWindow::RecupereDessin)
-                    .AvecBulle("Reprendre un dessin qui n'était pas enregistré"),
-            }),
+        Menu("MenuComplements", "Co_mpléments",
+             {
+                 Simple("RecupereDessin", "_Récupérer un dessin…", &DessinWindow::RecupereDessin)
+                     .AvecBulle("Reprendre un dessin qui n'était pas enregistré"),
+             }),
     };
     return table;
 }

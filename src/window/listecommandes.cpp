@@ -20,7 +20,8 @@ void AjouteLignes(const std::vector<Commande<DessinWindow>>& entrees, const std:
             continue;
         }
         liste += "<tr><td>" + nom + "</td><td>";
-        if (!commande.Touche.empty()) liste += "<kbd>" + commande.Touche + "</kbd>";
+        if (!commande.Touche.empty())
+            liste += "<kbd>" + Glib::Markup::escape_text(commande.Touche).raw() + "</kbd>";
         liste += "</td><td>" + Glib::Markup::escape_text(commande.Bulle).raw() + "</td></tr>\n";
     }
 }

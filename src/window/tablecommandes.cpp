@@ -4,69 +4,10 @@
 
 #include "model/bddgeo.h"
 #include "window/dessinwindow.h"
+#include "window/lignes.h"
 #include "zone/etats.h"
 
 namespace {
-
-using Ligne = Commande<DessinWindow>;
-
-Ligne Menu(const char* nom, const char* libelle, std::vector<Ligne> entrees) {
-    return Ligne(Ligne::Menu, nom, libelle).Contient(std::move(entrees));
-}
-
-Ligne Simple(const char* nom, const char* libelle, Ligne::Effet effet) {
-    return {Ligne::Simple, nom, libelle, std::move(effet)};
-}
-
-/// mot: what the toolkit's label says in French.
-Ligne Stock(const char* nom, const Gtk::StockID& stock, const char* mot, Ligne::Effet effet) {
-    return Ligne(Ligne::Stock, nom, "", std::move(effet))
-        .AvecImage(stock.get_string())
-        .Appelee(mot);
-}
-
-/// Has an icon of its name.
-Ligne Icone(const char* nom, const char* libelle, const char* bulle, Ligne::Effet effet) {
-    return Ligne(Ligne::Icone, nom, libelle, std::move(effet)).AvecBulle(bulle).AvecImage(nom);
-}
-
-/// A tool, which begins in that state.
-Ligne Outil(const char* nom, const char* libelle, const char* bulle, int etat) {
-    return Icone(nom, libelle, bulle,
-                 [etat](DessinWindow& fenetre) { fenetre.Zone.Outils.Entre(etat); });
-}
-
-/// The same without an icon.
-Ligne OutilSimple(const char* nom, const char* libelle, int etat) {
-    return Simple(nom, libelle, Outil(nom, libelle, "", etat).Execute);
-}
-
-Ligne Bascule(const char* nom, const char* libelle, Ligne::Effet effet, Ligne::Etat active) {
-    return Ligne(Ligne::Bascule, nom, libelle, std::move(effet)).SelonEtat(std::move(active));
-}
-
-Ligne Accroche(const char* nom, const char* libelle, const char* bulle,
-               bool OptionsAccrochage::*option) {
-    return Bascule(
-               nom, libelle,
-               [option](DessinWindow& fenetre) { fenetre.Zone.Souris.Bascule(option); },
-               [option](const DessinWindow& fenetre) {
-                   return fenetre.Zone.Souris.Options.*option;
-               })
-        .AvecBulle(bulle);
-}
-
-Ligne::Effet Zone(void (ZoneDessin::*operation)()) {
-    return [operation](DessinWindow& fenetre) { (fenetre.Zone.*operation)(); };
-}
-
-Ligne::Effet Vue(void (VueZone::*operation)()) {
-    return [operation](DessinWindow& fenetre) { (fenetre.Zone.Vue.*operation)(); };
-}
-
-Ligne::Effet Presse(void (PressePapier::*operation)()) {
-    return [operation](DessinWindow& fenetre) { (fenetre.Zone.Presse.*operation)(); };
-}
 
 bool GrilleAffichee(const DessinWindow& fenetre) {
     return fenetre.Zone.Vue.GrilleCourante.Affichee;
@@ -280,8 +221,8 @@ Ligne MenuAffichage() {
         {
             Simple("ZoomPlus", "Zoom _Plus", Zone(&ZoneDessin::ZoomPlusAction)).AvecTouche("O"),
             Simple("ZoomMoins", "Zoom _Moins", Zone(&ZoneDessin::ZoomMoinsAction)).AvecTouche("L"),
-            OutilSimple("ZoomOrigine", "Zoom _Origine", ETAT_ZOOM_ORIGINE),
-            OutilSimple("Zoom", "Zoom", ETAT_ZOOM_1),
+            OutilSimple("ZoomOrigine", "Zoom _Origine", "", ETAT_ZOOM_ORIGINE),
+            OutilSimple("Zoom", "Zoom", "", ETAT_ZOOM_1),
             Simple("ZoomInit", "Zoom _Init", Zone(&ZoneDessin::ZoomInitAction)),
             Bascule("BoiteAOutil", "B_oite A Outil", &DessinWindow::BoiteAOutil, Toujours),
             Bascule("Etat", "Barre d'_état", &DessinWindow::Etat, Toujours),
@@ -368,7 +309,7 @@ std::vector<Ligne> HorsMenus() {
 
 }  // namespace
 
-const std::vector<Commande<DessinWindow>>& TableCommandes() {
+const std::vector<Ligne>& TableCommandes() {
     static const std::vector<Ligne> table = [] {
         std::vector<Ligne> lignes = {
             MenuFichier(), MenuEdition(),   MenuCreation(),   MenuCote(), MenuCalques(),

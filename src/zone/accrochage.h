@@ -11,7 +11,7 @@ struct OptionsAccrochage {
     bool Actif = false;         ///< Any at all.
     bool Intersections = true;  ///< Crossings of the two nearest elements.
     bool Supports = true;       ///< Near elements are sought along their endless lines and circles.
-    bool Extremites = true;     ///< Centres, ends and corners.
+    bool Extremites = true;     ///< Centres, ends, middles and corners.
 };
 
 /// The special point within the pick distance of p, in drawing units: a crossing before a centre or

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The states of the tool machine. The numbers are fixed.
+/// The states of the tool machine. The numbers are fixed; those of tools beyond the first menus go
+/// from 1001 on.
 enum Etat {
     ETAT_REPOS = 0,
     ETAT_MODIFIE = 1,
