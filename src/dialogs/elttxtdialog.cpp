@@ -29,8 +29,8 @@ void ChampsTxt::Prend(EltTxt& txt) const {
 EltTxtDialog::EltTxtDialog(const Glib::ustring& titre, EltTxt* txt, bool avecAngle)
     : SaisieDialog(titre), Valeur(txt), Champs(*txt) {
     AjouteChamp("Texte", Champs.Texte);
-    if (avecAngle) AjouteChamp("Angle", Champs.Angle);
-    AjouteChamp("Taille", Champs.Taille);
+    if (avecAngle) AjouteChamp("Angle", Champs.Angle, UnNombre());
+    AjouteChamp("Taille", Champs.Taille, PlusQue(0.0, "La taille"));
     AjouteChamp("Police", Champs.Police);
 }
 

@@ -2,13 +2,13 @@
 
 #include "dialogs/nombres.h"
 
-Int2Dialog::Int2Dialog(const Glib::ustring& titre, int* premier, int* second)
+Int2Dialog::Int2Dialog(const Glib::ustring& titre, int* premier, int* second, const Examen& examen)
     : SaisieDialog(titre),
       Valeurs{premier, second},
       Premier(TexteNombre(*premier)),
       Second(TexteNombre(*second)) {
-    AjouteLigne(Premier);
-    AjouteLigne(Second);
+    AjouteLigne(Premier, examen);
+    AjouteLigne(Second, examen);
 }
 
 void Int2Dialog::Prend() {

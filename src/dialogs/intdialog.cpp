@@ -2,9 +2,9 @@
 
 #include "dialogs/nombres.h"
 
-IntDialog::IntDialog(const Glib::ustring& titre, int* valeur)
+IntDialog::IntDialog(const Glib::ustring& titre, int* valeur, const Examen& examen)
     : SaisieDialog(titre), Valeur(valeur), Champ(TexteNombre(*valeur)) {
-    AjouteLigne(Champ);
+    AjouteLigne(Champ, examen);
 }
 
 void IntDialog::Prend() {

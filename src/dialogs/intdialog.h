@@ -6,7 +6,7 @@
 class IntDialog : public SaisieDialog {
   public:
     /// `valeur` is the caller's and outlives the dialog.
-    IntDialog(const Glib::ustring& titre, int* valeur);
+    IntDialog(const Glib::ustring& titre, int* valeur, const Examen& examen = UnNombre());
 
   protected:
     void Prend() override;

@@ -6,11 +6,10 @@
 // The title is that of the texts, by which users know this dialog too.
 PrefCoteDialog::PrefCoteDialog(EltCote* cote)
     : EltTxtDialog("Préférences Texte", cote, false), Decimales(TexteNombre(NbDecimales)) {
-    AjouteChamp("Décimales", Decimales);
+    AjouteChamp("Décimales", Decimales, UnEntier(0, 15, "Le nombre de décimales"));
 }
 
 void PrefCoteDialog::Prend() {
     EltTxtDialog::Prend();
-    const auto nombre = Decimales.Nombre();
-    if (nombre && EstNombreDecimales(EnEntier(*nombre))) NbDecimales = EnEntier(*nombre);
+    if (const auto nombre = Decimales.Nombre()) NbDecimales = EnEntier(*nombre);
 }

@@ -2,9 +2,9 @@
 
 #include "dialogs/nombres.h"
 
-ReelDialog::ReelDialog(const Glib::ustring& titre, double* valeur)
+ReelDialog::ReelDialog(const Glib::ustring& titre, double* valeur, const Examen& examen)
     : SaisieDialog(titre), Valeur(valeur), Champ(TexteNombre(*valeur)) {
-    AjouteLigne(Champ);
+    AjouteLigne(Champ, examen);
 }
 
 void ReelDialog::Prend() {

@@ -6,7 +6,7 @@
 class ReelDialog : public SaisieDialog {
   public:
     /// `valeur` is the caller's and outlives the dialog.
-    ReelDialog(const Glib::ustring& titre, double* valeur);
+    ReelDialog(const Glib::ustring& titre, double* valeur, const Examen& examen = UnNombre());
 
   protected:
     void Prend() override;

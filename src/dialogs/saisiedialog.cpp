@@ -1,7 +1,6 @@
 #include "dialogs/saisiedialog.h"
 
 #include <gtkmm/box.h>
-#include <gtkmm/label.h>
 
 #include <algorithm>
 
@@ -59,9 +58,15 @@ SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true
     int largeur = 0, hauteur = 0;
     create_pango_layout(titre)->get_pixel_size(largeur, hauteur);
     set_default_size(largeur + boutons, -1);
+    Remarque.set_line_wrap();
+    Remarque.set_no_show_all();
+    get_vbox()->pack_end(Remarque, Gtk::PACK_SHRINK);
+    // Before whoever runs the dialog hears of the answer.
+    signal_response().connect(sigc::mem_fun(*this, &SaisieDialog::Arrete), false);
 }
 
-void SaisieDialog::Branche(ChampSaisie& champ) {
+void SaisieDialog::Branche(ChampSaisie& champ, const Examen& examen) {
+    if (examen) Examines.emplace_back(&champ, examen);
     champ.signal_activate().connect([this] { response(Gtk::RESPONSE_OK); });
 }
 
@@ -72,15 +77,16 @@ void SaisieDialog::BrancheQuestion(Gtk::Button& bouton, const sigc::slot<void>& 
     });
 }
 
-void SaisieDialog::AjouteLigne(ChampSaisie& champ) {
+void SaisieDialog::AjouteLigne(ChampSaisie& champ, const Examen& examen) {
     champ.set_width_chars(24);
-    Branche(champ);
+    Branche(champ, examen);
     get_vbox()->pack_start(champ, Gtk::PACK_SHRINK);
     champ.show();
 }
 
-void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ) {
-    Branche(champ);
+void SaisieDialog::AjouteChamp(const Glib::ustring& libelle, ChampSaisie& champ,
+                               const Examen& examen) {
+    Branche(champ, examen);
     AjouteChamp(libelle, static_cast<Gtk::Widget&>(champ));
 }
 
@@ -106,6 +112,25 @@ guint SaisieDialog::RangLibre() {
         Champs.show();
     }
     return Rangs++;
+}
+
+Glib::ustring SaisieDialog::Refus() {
+    for (const auto& [champ, examen] : Examines) {
+        if (!champ->EstModifie()) continue;
+        const Glib::ustring phrase = examen(champ->get_text());
+        if (phrase.empty()) continue;
+        champ->grab_focus();
+        return phrase;
+    }
+    return {};
+}
+
+void SaisieDialog::Arrete(int reponse) {
+    if (reponse != Gtk::RESPONSE_OK && reponse != Gtk::RESPONSE_APPLY) return;
+    const Glib::ustring phrase = Refus();
+    Remarque.set_text(phrase);
+    Remarque.set_visible(!phrase.empty());
+    if (!phrase.empty()) signal_response().emission_stop();
 }
 
 void SaisieDialog::on_response(int reponse) {

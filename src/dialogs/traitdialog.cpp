@@ -20,9 +20,9 @@ TraitDialog::TraitDialog(const Glib::ustring& titre, Trait* trait)
       Contour("Contour"),
       Hachure("Hachure"),
       BoutonFond("Couleur Fond") {
-    AjouteChamp("Épaisseur", Epaisseur);
-    AjouteChamp("Angle hachure", AngleHachure);
-    AjouteChamp("Pas hachure", PasHachure);
+    AjouteChamp("Épaisseur", Epaisseur, UnNombre());
+    AjouteChamp("Angle hachure", AngleHachure, UnNombre());
+    AjouteChamp("Pas hachure", PasHachure, UnNombre());
     RangeStyles();
     RangeSurface();
     for (Gtk::Widget* ligne : {&LigneStyles, &LigneSurface})

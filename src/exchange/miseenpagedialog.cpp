@@ -37,9 +37,9 @@ MiseEnPageDialog::MiseEnPageDialog(const Glib::ustring& titre,
       BoutonParcours("Parcours"),
       Noir("N/B") {
     RangePage();
-    AjouteChamp("Echelle:", Echelle);
-    AjouteChamp("Origine Feuille X:", OrigineX);
-    AjouteChamp("Origine Feuille Y:", OrigineY);
+    AjouteChamp("Echelle:", Echelle, Entre(1e-6, 1e9, "L'échelle"));
+    AjouteChamp("Origine Feuille X:", OrigineX, UnNombre());
+    AjouteChamp("Origine Feuille Y:", OrigineY, UnNombre());
     RangeCartouche();
     Noir.set_active(FeuilleCourante.ImpressionNoir);
     get_vbox()->pack_start(Noir, Gtk::PACK_SHRINK);

@@ -15,7 +15,7 @@
 
 void DessinWindow::CalqueCourant() {
     int calque = Zone.Outils.Protos.Calque();
-    IntDialog dialogue("Numéro du calque courant", &calque);
+    IntDialog dialogue("Numéro du calque courant", &calque, UnCalque());
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     Zone.Outils.Protos.SetCalque(calque);
     AfficheCalques();
@@ -23,7 +23,7 @@ void DessinWindow::CalqueCourant() {
 
 void DessinWindow::CalquesAfficher() {
     int calque = BddCourante.CalqueAffiche();
-    IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque);
+    IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque, UnCalque());
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     Zone.Outils.SetCalqueAffiche(calque);
     AfficheCalques();
@@ -31,7 +31,7 @@ void DessinWindow::CalquesAfficher() {
 
 void DessinWindow::GrillePas() {
     double pas = Zone.Vue.GrilleCourante.Pas;
-    ReelDialog dialogue("Entrer le pas de la grille", &pas);
+    ReelDialog dialogue("Entrer le pas de la grille", &pas, PlusQue(1e-6, "Le pas"));
     if (dialogue.run() == Gtk::RESPONSE_OK) Zone.Vue.SetPasGrille(pas);
 }
 
@@ -58,9 +58,10 @@ void DessinWindow::CollerRotation() {
 void DessinWindow::CollerK() {
     double facteur = BddCourante.Transforme.Agrandissement;
     // The title is that of the rotation, by which users know this dialog too.
-    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur);
+    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur,
+                        Entre(0.001, 1000.0, "Le coefficient"));
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    if (facteur > 0.001 && facteur < 1000.0) BddCourante.Transforme.Agrandissement = facteur;
+    BddCourante.Transforme.Agrandissement = facteur;
     Zone.Presse.Colle();
 }
 
@@ -79,7 +80,8 @@ void DessinWindow::PrefCote() {
 void DessinWindow::SurfacePref() {
     EltProfilSurface& surface = Zone.Outils.Protos.ProfilSurface;
     int lignes = surface.nbX, colonnes = surface.nbY;
-    Int2Dialog dialogue("Nombre de lignes / Nombre de Colonnes", &lignes, &colonnes);
+    Int2Dialog dialogue("Nombre de lignes / Nombre de Colonnes", &lignes, &colonnes,
+                        AuMoins(3.0, "Chaque nombre"));
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     surface.SetNbX(lignes);
     surface.SetNbY(colonnes);

@@ -1,6 +1,7 @@
 #include "zone/machine.h"
 
 #include "dialogs/reeldialog.h"
+#include "elements/vue.h"
 #include "model/bddgeo.h"
 #include "zone/pointeur.h"
 #include "zone/tableetats.h"
@@ -145,6 +146,6 @@ bool Machine::PrendSecond(EltGeo* trouve) {
 }
 
 bool Machine::DemandeRayon() {
-    ReelDialog dialogue("Rayon ?", &Rayon);
+    ReelDialog dialogue("Rayon ?", &Rayon, PlusQue(vue::Epsilon(), "Le rayon"));
     return dialogue.run() == Gtk::RESPONSE_OK;
 }

@@ -3,6 +3,7 @@
 #include <gdk/gdk.h>
 #include <glibmm/main.h>
 #include <gtkmm/entry.h>
+#include <gtkmm/label.h>
 #include <gtkmm/main.h>
 #include <gtkmm/menu.h>
 
@@ -39,6 +40,21 @@ void RepondDialogue(int reponse, std::function<void(Gtk::Dialog&)> prepare) {
 void RepondSaisie(const std::string& texte, int reponse) {
     RepondDialogue(reponse, [texte](Gtk::Dialog& dialogue) {
         if (auto* saisie = PremierDe<Gtk::Entry>(dialogue)) saisie->set_text(texte);
+    });
+}
+
+std::string RefusDe(Gtk::Dialog& dialogue) {
+    dialogue.response(Gtk::RESPONSE_OK);
+    for (Gtk::Widget* enfant : dialogue.get_vbox()->get_children())
+        if (auto* libelle = dynamic_cast<Gtk::Label*>(enfant))
+            if (libelle->get_visible()) return libelle->get_text();
+    return {};
+}
+
+void RefuseSaisie(const std::string& texte, std::string& phrase) {
+    RepondDialogue(Gtk::RESPONSE_CANCEL, [texte, &phrase](Gtk::Dialog& dialogue) {
+        PremierDe<Gtk::Entry>(dialogue)->set_text(texte);
+        phrase = RefusDe(dialogue);
     });
 }
 

@@ -20,6 +20,12 @@ void RepondDialogue(int reponse, std::function<void(Gtk::Dialog&)> prepare = {})
 /// The same after typing text into its first entry.
 void RepondSaisie(const std::string& texte, int reponse = Gtk::RESPONSE_OK);
 
+/// What a dialog says against being validated as it stands; empty where it takes the answer.
+std::string RefusDe(Gtk::Dialog& dialogue);
+
+/// Validates text in the first entry of the next dialog, then gives up; what it said against it.
+void RefuseSaisie(const std::string& texte, std::string& phrase);
+
 /// The first widget of a type below another; null when there is none.
 template <class Type>
 Type* PremierDe(Gtk::Widget& racine) {

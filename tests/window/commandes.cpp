@@ -299,11 +299,30 @@ TEST(Reglages, CalquesGrilleEtTrait) {
     RepondSaisie("2,5");
     bureau.Choisit("GrillePas");
     EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5);
-    for (const char* mauvais : {"1e400", "-3", "abc"}) {
-        RepondSaisie(mauvais);
-        bureau.Choisit("GrillePas");
-        EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5) << mauvais;
+    // What would change nothing is said, and asked again.
+    struct Mauvaise {
+        const char* Commande;
+        const char* Saisie;
+        const char* Phrase;
+    };
+    const Mauvaise mauvaises[] = {
+        {"GrillePas", "1e400", "Ce nombre est trop grand."},
+        {"GrillePas", "-3", "Le pas doit dépasser 0."},
+        {"GrillePas", "abc", "Le pas doit dépasser 0."},
+        {"CollerK", "1000", "Le coefficient doit dépasser 0.001 et rester sous 1000."},
+        {"CalqueCourant", "abc", "Il faut le numéro d'un calque."},
+        {"CalquesAfficher", "", "Il faut le numéro d'un calque."},
+        {"Jonc", "0", "Le rayon doit dépasser 0."},
+        {"Image", "", "Il faut le nom d'une BDD."},
+    };
+    for (const Mauvaise& mauvaise : mauvaises) {
+        std::string phrase;
+        RefuseSaisie(mauvaise.Saisie, phrase);
+        bureau.Choisit(mauvaise.Commande);
+        EXPECT_EQ(phrase, mauvaise.Phrase) << mauvaise.Commande;
     }
+    EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5);
+    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_SEGMENT_1);
 
     RepondTrait("7", Gtk::RESPONSE_OK);
     bureau.Choisit("Trait");

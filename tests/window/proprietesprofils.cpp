@@ -84,9 +84,11 @@ TEST(ProprietesProfils, TubesEtImages) {
     EXPECT_EQ(Suite(tube), "0 0 0\n" + Change + "10\n");
     Repond(tube, {{2, "5"}, {3, "2.5"}});
     EXPECT_EQ(Suite(tube), "0 0 5\n" + Change + "2.5\n");
-    // A radius that cannot be costs no more than the fields beside it.
-    Repond(tube, {{3, "-1"}, {4, "8"}});
-    EXPECT_EQ(tube.rayon, 2.5);
+    Repond(tube, {{3, "-1"}, {4, "8"}}, Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(RefusDe(dialogue), "R Inf doit dépasser 0.");
+        Champs(dialogue).at(3)->set_text("3");
+    });
+    EXPECT_EQ(tube.rayon, 3.0);
     EXPECT_EQ(tube.h, 8.0);
     EltProfilBoaRond boa;
     EXPECT_EQ(ToutChange(boa, 3), "Propriété du ProfilBoaRond|X=0|Y=0|Z=0" + Attributs);
@@ -119,5 +121,8 @@ TEST(ProprietesProfils, DimensionDuTableauDePoints) {
     };
     EXPECT_EQ(repond("6", "7", Gtk::RESPONSE_CANCEL), std::pair(4, 4));
     EXPECT_EQ(repond("6", "7.4", Gtk::RESPONSE_OK), std::pair(6, 7));
-    EXPECT_EQ(repond("2", "3", Gtk::RESPONSE_OK), std::pair(6, 3)) << "above 2 only";
+    std::string phrase;
+    RefuseSaisie("2", phrase);
+    bureau.Choisit("SurfacePref");
+    EXPECT_EQ(phrase, "Chaque nombre doit valoir 3 au moins.");
 }

@@ -1,0 +1,66 @@
+#include "dialogs/examens.h"
+
+#include <glib.h>
+
+#include "dialogs/nombres.h"
+
+namespace {
+
+/// Takes the finite numbers that admet takes.
+template <class Admet>
+Examen Nombre(const Admet& admet, const Glib::ustring& phrase) {
+    return [admet, phrase](const Glib::ustring& texte) -> Glib::ustring {
+        const auto nombre = LitNombre(texte);
+        if (!nombre) return "Ce nombre est trop grand.";
+        return admet(*nombre) ? "" : phrase;
+    };
+}
+
+bool ContientNombre(const Glib::ustring& texte) {
+    char* fin = nullptr;
+    g_ascii_strtod(texte.c_str(), &fin);
+    return fin != texte.c_str();
+}
+
+}  // namespace
+
+Examen UnNombre() {
+    return Nombre([](double) { return true; }, "");
+}
+
+Examen PlusQue(double mini, const Glib::ustring& quoi) {
+    return Nombre([mini](double x) { return x > mini; },
+                  quoi + " doit dépasser " + TexteNombre(mini) + ".");
+}
+
+Examen AuMoins(double mini, const Glib::ustring& quoi) {
+    return Nombre([mini](double x) { return x >= mini; },
+                  quoi + " doit valoir " + TexteNombre(mini) + " au moins.");
+}
+
+Examen Entre(double mini, double maxi, const Glib::ustring& quoi) {
+    return Nombre([mini, maxi](double x) { return x > mini && x < maxi; },
+                  quoi + " doit dépasser " + TexteNombre(mini) + " et rester sous " +
+                      TexteNombre(maxi) + ".");
+}
+
+Examen NonNul(const Glib::ustring& quoi) {
+    return Nombre([](double x) { return x != 0.0; }, quoi + " ne peut pas valoir 0.");
+}
+
+Examen UnEntier(int mini, int maxi, const Glib::ustring& quoi) {
+    return Nombre([mini, maxi](double x) { return EnEntier(x) >= mini && EnEntier(x) <= maxi; },
+                  quoi + " doit aller de " + TexteNombre(mini) + " à " + TexteNombre(maxi) + ".");
+}
+
+Examen UnCalque() {
+    return [](const Glib::ustring& texte) -> Glib::ustring {
+        return ContientNombre(texte) ? UnNombre()(texte) : "Il faut le numéro d'un calque.";
+    };
+}
+
+Examen UnNomDeBDD() {
+    return [](const Glib::ustring& texte) -> Glib::ustring {
+        return texte.empty() ? "Il faut le nom d'une BDD." : "";
+    };
+}
