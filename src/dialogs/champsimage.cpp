@@ -12,6 +12,5 @@ ChampsImage::ChampsImage(const EltImage& image)
 void ChampsImage::Prend(EltImage& image) const {
     if (Identificateur.EstModifie()) image.SetIdentificateur(Identificateur.get_text());
     if (const auto degres = Angle.Nombre()) image.Angle = EnRadians(*degres);
-    // An image of no size could not be told from a lost one.
-    if (const auto k = Agrandissement.Nombre(); k && *k > 0.0) image.Agrandissement = *k;
+    if (const auto k = Agrandissement.Nombre()) image.Agrandissement = *k;
 }

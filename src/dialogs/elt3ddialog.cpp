@@ -25,7 +25,7 @@ void Elt3dDialog::AjouteChamps3d() {
     AjouteReel("béta", &Elt3d::beta);
     AjouteReel("gamma", &Elt3d::gamma);
     AjouteChamp("texture", Texture);
-    AjouteChamp("facétisation", Facetisation);
+    AjouteChamp("facétisation", Facetisation, UnNombre());
     AjouteCadre();
     AjouteReel("Echelle Texture", &Elt3d::echelleTexture);
     AjouteReel("Brillance", &Elt3d::brillance);
@@ -34,7 +34,7 @@ void Elt3dDialog::AjouteChamps3d() {
 
 void Elt3dDialog::AjouteReel(const char* libelle, double Elt3d::*champ) {
     auto* saisie = Gtk::manage(new ChampSaisie(TexteNombre(Saisie.*champ)));
-    AjouteChamp(libelle, *saisie);
+    AjouteChamp(libelle, *saisie, UnNombre());
     Reels.emplace_back(saisie, champ);
 }
 

@@ -15,9 +15,9 @@ class EltArcDialog : public EltGeoDialog {
           Rayon(TexteNombre(arc.Rayon)),
           AngleDebut(TexteNombre(EnDegres(arc.AngleDebut))),
           Ouverture(TexteNombre(EnDegres(arc.Ouverture))) {
-        AjouteChamp("Rayon", Rayon);
-        AjouteChamp("Angle Début", AngleDebut);
-        AjouteChamp(" Angle ouverture", Ouverture);
+        AjouteChamp("Rayon", Rayon, PlusQue(0.0, "Le rayon"));
+        AjouteChamp("Angle Début", AngleDebut, UnNombre());
+        AjouteChamp(" Angle ouverture", Ouverture, UnNombre());
     }
 
   private:

@@ -13,17 +13,16 @@ class EltCylindreDialog : public Elt3dDialog {
         : Elt3dDialog(titre, cylindre, cylindre),
           RayonBas(TexteNombre(cylindre.Rayon)),
           RayonHaut(TexteNombre(cylindre.rayonHaut)) {
-        AjouteChamp("R Inf", RayonBas);
-        AjouteChamp("R Sup", RayonHaut);
+        AjouteChamp("R Inf", RayonBas, PlusQue(0.0, "R Inf"));
+        AjouteChamp("R Sup", RayonHaut, AuMoins(0.0, "R Sup"));
         AjouteChamps3d();
     }
 
   protected:
     void PrendChamps() override {
         auto& cylindre = static_cast<EltCylindre&>(Copie());
-        if (const auto rayon = RayonBas.Nombre(); rayon && *rayon > 0.0) cylindre.Rayon = *rayon;
-        if (const auto rayon = RayonHaut.Nombre(); rayon && *rayon >= 0.0)
-            cylindre.rayonHaut = *rayon;
+        if (const auto rayon = RayonBas.Nombre()) cylindre.Rayon = *rayon;
+        if (const auto rayon = RayonHaut.Nombre()) cylindre.rayonHaut = *rayon;
     }
 
   private:

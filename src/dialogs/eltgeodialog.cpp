@@ -20,16 +20,16 @@ EltGeoDialog::EltGeoDialog(const Glib::ustring& titre, EltGeo& elt, bool avecPos
       BoutonTrait("Trait"),
       BoutonCouleur("Couleur") {
     if (avecPosition) {
-        AjouteChamp("X", X);
-        AjouteChamp("Y", Y);
-        AjouteChamp("Z", Z);
+        AjouteChamp("X", X, UnNombre());
+        AjouteChamp("Y", Y, UnNombre());
+        AjouteChamp("Z", Z, UnNombre());
     }
     RangeLigne();
     BddCourante.SignalRetrait().connect(sigc::mem_fun(*this, &EltGeoDialog::LaisseElement));
 }
 
 void EltGeoDialog::RangeLigne() {
-    Branche(Calque);
+    Branche(Calque, UnCalque());
     Calque.set_width_chars(6);
     Ligne.pack_start(*Gtk::manage(new Gtk::Label("Calque")), Gtk::PACK_SHRINK);
     Ligne.pack_start(Calque);
@@ -57,15 +57,23 @@ void EltGeoDialog::LaisseElement(EltGeo* elt) {
     response(Gtk::RESPONSE_CANCEL);
 }
 
-void EltGeoDialog::Prend() {
-    if (!Elt) return;
+Glib::ustring EltGeoDialog::Refus() {
+    const Glib::ustring phrase = SaisieDialog::Refus();
+    if (!phrase.empty() || !Elt) return phrase;
     const auto x = X.Nombre(), y = Y.Nombre(), z = Z.Nombre();
     const PointVek& p = Valeur->Position;
     if (x || y || z) Valeur->Place({x.value_or(p.x), y.value_or(p.y), z.value_or(p.z)});
     PrendChamps();
-    const bool fini = Valeur->EstFini() && Valeur->Position.EstFini();
-    // A measure that cannot be costs the user no more than that measure's fields.
-    if (fini && (Valeur->EstValide() || !Elt->EstValide())) Elt->Copie(*Valeur);
+    if (!Valeur->EstFini() || !Valeur->Position.EstFini()) return "Ces nombres sont trop grands.";
+    // What a file has brought in such a state may keep it.
+    if (!Valeur->EstValide() && Elt->EstValide())
+        return "Avec ces mesures, il ne resterait rien de l'élément.";
+    return {};
+}
+
+void EltGeoDialog::Prend() {
+    if (!Elt) return;
+    Elt->Copie(*Valeur);
     if (const auto calque = Calque.Nombre()) Elt->Calque = EnEntier(*calque);
     if (StyleModifie) Elt->ChangeTrait(Style);
 }

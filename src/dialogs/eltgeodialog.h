@@ -9,8 +9,8 @@
 #include "elements/eltgeo.h"
 
 /// Asks for the properties of an element: position, layer and style, and what derived dialogs add.
-/// The fields act on a copy, which the element takes on when the dialog is validated and the copy
-/// may stand in a drawing.
+/// The fields act on a copy, which the element takes on when the dialog is validated; a copy that
+/// could not stand in a drawing keeps the dialog open.
 class EltGeoDialog : public SaisieDialog {
   public:
     /// The element is the drawing's; when it leaves the drawing the dialog gives up.
@@ -26,6 +26,8 @@ class EltGeoDialog : public SaisieDialog {
     /// Gives the copy what was entered in the fields of a derived dialog.
     virtual void PrendChamps() {}
 
+    /// Also brings the copy to what was entered.
+    Glib::ustring Refus() override;
     void Prend() override;
 
   private:

@@ -15,20 +15,20 @@ class EltPaveDialog : public Elt3dDialog {
         : Elt3dDialog(titre, pave, pave),
           Longueur(TexteNombre(std::abs(pave.Extremite.x - pave.Origine.x))),
           Largeur(TexteNombre(std::abs(pave.Extremite.y - pave.Origine.y))) {
-        AjouteChamp("Longueur", Longueur);
-        AjouteChamp("Largeur", Largeur);
+        AjouteChamp("Longueur", Longueur, PlusQue(0.0, "La longueur"));
+        AjouteChamp("Largeur", Largeur, PlusQue(0.0, "La largeur"));
         AjouteChamps3d();
     }
 
   protected:
-    /// The box grows about its centre. What has no size keeps the one that it had.
+    /// The box grows about its centre.
     void PrendChamps() override {
         if (!Longueur.EstModifie() && !Largeur.EstModifie()) return;
         auto& pave = static_cast<EltPave&>(Copie());
         pave.Ordonne();
         PointVek demi = (pave.Extremite - pave.Origine) / 2.0;
-        if (const auto x = Longueur.Nombre(); x && *x > 0.0) demi.x = *x / 2.0;
-        if (const auto y = Largeur.Nombre(); y && *y > 0.0) demi.y = -*y / 2.0;
+        if (const auto x = Longueur.Nombre()) demi.x = *x / 2.0;
+        if (const auto y = Largeur.Nombre()) demi.y = -*y / 2.0;
         pave.SetPoints(pave.Position - demi, pave.Position + demi);
     }
 

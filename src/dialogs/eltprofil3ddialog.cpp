@@ -26,13 +26,13 @@ class EltProfilTubeRondDialog : public Elt3dDialog {
   public:
     explicit EltProfilTubeRondDialog(EltProfilTubeRond& tube)
         : Elt3dDialog(TitreProprietes(tube), tube, tube), Rayon(TexteNombre(tube.rayon)) {
-        AjouteChamp("R Inf", Rayon);
+        AjouteChamp("R Inf", Rayon, PlusQue(0.0, "R Inf"));
         AjouteChamps3d();
     }
 
   private:
     void PrendChamps() override {
-        if (const auto rayon = Rayon.Nombre(); rayon && *rayon > 0.0)
+        if (const auto rayon = Rayon.Nombre())
             static_cast<EltProfilTubeRond&>(Copie()).rayon = *rayon;
     }
 

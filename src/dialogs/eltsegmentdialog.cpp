@@ -72,7 +72,11 @@ class EltSegmentDialog : public EltGeoDialog {
         auto* champ = Gtk::manage(new ChampSaisie(TexteNombre(mesure.Lit(Segment))));
         const LigneMesure ligne = {&mesure, champ};
         Lignes.push_back(ligne);
-        AjouteChamp(mesure.Libelle, *champ);
+        // The others have been filled in from what the last one says.
+        const Examen examen = &mesure == &MesureLongueur ? NonNul("La longueur") : UnNombre();
+        AjouteChamp(mesure.Libelle, *champ, [this, &mesure, examen](const Glib::ustring& texte) {
+            return EnCours == &mesure ? examen(texte) : Glib::ustring();
+        });
         champ->signal_changed().connect([this, ligne] { Suit(ligne); });
     }
 

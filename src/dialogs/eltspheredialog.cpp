@@ -10,14 +10,13 @@ class EltSphereDialog : public Elt3dDialog {
   public:
     explicit EltSphereDialog(EltSphere& sphere)
         : Elt3dDialog(TitreProprietes(sphere), sphere, sphere), Rayon(TexteNombre(sphere.Rayon)) {
-        AjouteChamp("Rayon", Rayon);
+        AjouteChamp("Rayon", Rayon, PlusQue(0.0, "Le rayon"));
         AjouteChamps3d();
     }
 
   private:
     void PrendChamps() override {
-        if (const auto rayon = Rayon.Nombre(); rayon && *rayon > 0.0)
-            static_cast<EltSphere&>(Copie()).Rayon = *rayon;
+        if (const auto rayon = Rayon.Nombre()) static_cast<EltSphere&>(Copie()).Rayon = *rayon;
     }
 
     ChampSaisie Rayon;

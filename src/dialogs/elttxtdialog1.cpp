@@ -12,8 +12,8 @@ class EltTxtDialog1 : public EltGeoDialog {
                            bool avecAngle = true, bool avecPosition = true)
         : EltGeoDialog(titre, txt, avecPosition), Champs(txt) {
         AjouteChamp("Texte", Champs.Texte);
-        if (avecAngle) AjouteChamp("Angle", Champs.Angle);
-        AjouteChamp("Taille", Champs.Taille);
+        if (avecAngle) AjouteChamp("Angle", Champs.Angle, UnNombre());
+        AjouteChamp("Taille", Champs.Taille, PlusQue(0.0, "La taille"));
         AjouteChamp("Police", Champs.Police);
     }
 

@@ -102,15 +102,24 @@ TEST(Proprietes, ChaqueChampEtLuiSeul) {
     EXPECT_NEAR(disque.AngleDebut, Pi / 2, 1e-12);
     EXPECT_EQ(disque.Ouverture, DeuxPi);
 
-    // What cannot be costs nothing else.
-    Repond(disque, {{3, "-4"}, {6, "2"}});
-    EXPECT_EQ(disque.Rayon, 10 * tiers);
+    // What cannot be is said, and costs nothing else.
+    Repond(disque, {{0, "99"}, {3, "-4"}, {6, "2"}}, Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(RefusDe(dialogue), "Le rayon doit dépasser 0.");
+        EXPECT_EQ(dialogue.get_focus(), Champs(dialogue).at(3));
+        Champs(dialogue).at(3)->set_text("4");
+    });
+    EXPECT_EQ(disque.Rayon, 4.0);
+    EXPECT_EQ(disque.Position.x, 99.0);
     EXPECT_EQ(disque.Calque, 2);
 
     EltTxt txt;
     txt.Texte = "é ø";
     txt.Angle = tiers;
-    EXPECT_EQ(Repond(txt, {{3, "à\nb"}, {5, "12.5"}}),
+    EXPECT_EQ(Repond(txt, {{3, "à\nb"}, {5, "0"}}, Gtk::RESPONSE_OK,
+                     [](Gtk::Dialog& dialogue) {
+                         EXPECT_EQ(RefusDe(dialogue), "La taille doit dépasser 0.");
+                         Champs(dialogue).at(5)->set_text("12.5");
+                     }),
               "Propriété du texte|X=0|Y=0|Z=0|Texte=é ø|Angle=20|Taille=10|0");
     EXPECT_EQ(txt.Texte, "à b");
     EXPECT_EQ(txt.Angle, tiers);
@@ -140,12 +149,15 @@ TEST(Proprietes, UnGroupeEtSonImage) {
 
     EltImage image;
     image.Angle = 1.0 / 3.0;
-    EXPECT_EQ(Repond(image, {{3, "vis"}, {5, "0"}}),
+    EXPECT_EQ(Repond(image, {{3, "vis"}}),
               "Image de bdd|X=0|Y=0|Z=0|Identificateur=defaut|angle=19.099|Agrandissement=1|0");
     EXPECT_EQ(image.Identificateur, "vis");
     EXPECT_EQ(image.Angle, 1.0 / 3.0);
     EXPECT_EQ(image.Agrandissement, 1.0);
-    Repond(image, {{4, "-90"}, {5, "2,5"}});
+    Repond(image, {{4, "-90"}, {5, "0"}}, Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(RefusDe(dialogue), "L'agrandissement doit dépasser 0.");
+        Champs(dialogue).at(5)->set_text("2,5");
+    });
     EXPECT_NEAR(image.Angle, -Pi / 2, 1e-12);
     EXPECT_EQ(image.Agrandissement, 2.5);
 }
@@ -187,7 +199,12 @@ TEST(Proprietes, LesChampsDUnSegmentSeSuivent) {
         EXPECT_EQ(texte(dialogue, 6), "60");
         champs[3]->set_text("80");
         EXPECT_EQ(texte(dialogue, 6), "100");
-        champs[6]->set_text("1e400");
+        for (const auto& [frappe, phrase] : {std::pair{"1e400", "Ce nombre est trop grand."},
+                                             {"abc", "La longueur ne peut pas valoir 0."}}) {
+            champs[6]->set_text(frappe);
+            EXPECT_EQ(RefusDe(dialogue), phrase);
+        }
+        champs[6]->set_text("100");
         EXPECT_EQ(texte(dialogue, 0), "0");
         EXPECT_EQ(segment.Extremite.x, 10.0) << "not before it is validated";
     });
@@ -205,7 +222,10 @@ TEST(Proprietes, LesChampsDUnSegmentSeSuivent) {
 
     // The ends may meet while the fields are typed one after the other.
     EltSegment plat({0, 0}, {10, 0}, 0);
-    Repond(plat, {{0, "10"}, {1, "5"}});
+    Repond(plat, {{0, "10"}}, Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(RefusDe(dialogue), "Avec ces mesures, il ne resterait rien de l'élément.");
+        Champs(dialogue).at(1)->set_text("5");
+    });
     EXPECT_EQ(plat.Origine.x, 10.0);
     EXPECT_EQ(plat.Origine.y, 5.0);
     EXPECT_EQ(plat.Extremite.y, 0.0);
@@ -267,10 +287,11 @@ TEST(Proprietes, RienDImpossibleNEntre) {
     for (EltGeo* elt : BddCourante.Elements)
         for (const char* saisie : {"", "0", "-nan", "1e400", "-1e308", "1e-320"})
             for (std::size_t rang = 0; rang < 9; ++rang) {
-                RepondDialogue(Gtk::RESPONSE_OK, [&](Gtk::Dialog& dialogue) {
+                RepondDialogue(Gtk::RESPONSE_CANCEL, [&](Gtk::Dialog& dialogue) {
                     const auto champs = Champs(dialogue);
                     champs[rang % champs.size()]->set_text(saisie);
                     champs[(rang * 5 + 2) % champs.size()]->set_text(saisie);
+                    dialogue.response(Gtk::RESPONSE_OK);
                 });
                 elt->Proprietes();
                 EXPECT_TRUE(elt->EstValide() && elt->Position.EstFini())

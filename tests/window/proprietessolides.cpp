@@ -59,8 +59,11 @@ TEST(ProprietesSolides, UnPave) {
               "Propriété du PAVE|X=20|Y=10|Z=0|Longueur=40|Largeur=20" + Attributs("10") + "|0");
     EXPECT_EQ(Record(pave),
               "19" + Entete + "20 10 0\n-5 20 0 45 0 0\n0 0 0\n10 1 1 1 1 1 0 0 50\n\n");
-    // What has no size keeps its own, and the rest is taken.
-    Repond(pave, {{0, "25"}, {3, "0"}, {4, "10"}, {5, "8"}});
+    Repond(pave, {{0, "25"}, {3, "0"}, {4, "10"}, {5, "8"}}, Gtk::RESPONSE_OK,
+           [](Gtk::Dialog& dialogue) {
+               EXPECT_EQ(RefusDe(dialogue), "La longueur doit dépasser 0.");
+               Champs(dialogue).at(3)->set_text("50");
+           });
     EXPECT_EQ(Record(pave),
               "19" + Entete + "25 10 0\n0 15 0 50 5 0\n0 0 0\n8 1 1 1 1 1 0 0 50\n\n");
     // No facets on a box.
@@ -79,7 +82,10 @@ TEST(ProprietesSolides, UnCylindre) {
     // Neither the scale of the texture nor the facets.
     EXPECT_EQ(ToutChange(cylindre, 5),
               "1 2 0\n5 0 6.28319\n1.5 2.5 -3.5\n-4.5 0 0 0 0 1 7 1 50\nbois é.png\n0\n");
-    Repond(cylindre, {{3, "-5"}, {4, "-1"}, {2, "6"}, {13, "2"}});
+    Repond(cylindre, {{4, "-1"}, {2, "6"}, {13, "2"}}, Gtk::RESPONSE_OK, [](Gtk::Dialog& dialogue) {
+        EXPECT_EQ(RefusDe(dialogue), "R Sup doit valoir 0 au moins.");
+        Champs(dialogue).at(4)->set_text("0");
+    });
     EXPECT_EQ(cylindre.Rayon, 5.0);
     EXPECT_EQ(cylindre.rayonHaut, 0.0);
     EXPECT_EQ(cylindre.Position.z, 6.0);
