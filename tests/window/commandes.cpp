@@ -255,16 +255,20 @@ TEST(Fermeture, NeFermeQueSiOnLeVeut) {
     EXPECT_FALSE(FermeParLeGestionnaire(bureau));
     RepondDialogue(Gtk::RESPONSE_CANCEL);
     EXPECT_FALSE(FermeParLeGestionnaire(bureau));
-    const auto repondNon = Glib::signal_timeout().connect(
-        [] {
-            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels())
-                if (dynamic_cast<Gtk::FileChooserDialog*>(fenetre) && fenetre->get_mapped())
-                    fenetre->mnemonic_activate(GDK_n, Gdk::MOD1_MASK);
+    int essais = 0;
+    sigc::connection repondNon = Glib::signal_timeout().connect(
+        [&essais] {
+            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
+                auto* choix = dynamic_cast<Gtk::FileChooserDialog*>(fenetre);
+                if (!choix || !choix->get_mapped()) continue;
+                choix->mnemonic_activate(GDK_n, Gdk::MOD1_MASK);
+                if (++essais > 9) choix->response(Gtk::RESPONSE_CANCEL);
+            }
             return true;
         },
         100);
     EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "the letter of its button";
-    sigc::connection(repondNon).disconnect();
+    repondNon.disconnect();
     EXPECT_TRUE(BddCourante.Modifie);
 
     // With a name: the question.
