@@ -100,6 +100,10 @@ class BDDGeo : public BDDGeoBase {
     void CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
                         const Glib::ustring& identificateur);
 
+    /// How many images of what is to be pasted would show nothing: the drawing has no group of the
+    /// name that they bear.
+    int ImagesSansGroupe(const BDDGeoClipboard& collage) const;
+
     /// Gives the style to all visible elements in the rectangle, without undo and without marking
     /// the drawing as modified: to users a style is a setting of the view.
     void ChangeTraitZone(const EltRectangle& zone, const Trait& trait);

@@ -1,10 +1,13 @@
 // Cut, copy, paste and groups: what the drawing does with its clipboard.
 
+#include <map>
+#include <string>
 #include <vector>
 
 #include "elements/eltrectangle.h"
 #include "model/bddgeo.h"
 #include "model/eltbdd.h"
+#include "model/eltimage.h"
 
 const EltBDD* BDDGeo::ChercheBDD(const Glib::ustring& identificateur) const {
     const auto bonne = [&identificateur](const EltGeo& elt) {
@@ -53,4 +56,15 @@ void BDDGeo::CollerCommeBDD(const BDDGeoClipboard& collage, const PointVek& p,
     groupe->Place(p);
     AjouteDebut(std::move(groupe));
     NoteChangement();
+}
+
+int BDDGeo::ImagesSansGroupe(const BDDGeoClipboard& collage) const {
+    std::map<std::string, int> parNom;
+    for (const EltGeo* elt : collage.Elements)
+        if (const auto* image = dynamic_cast<const EltImage*>(elt))
+            ++parNom[image->Identificateur.raw()];
+    int nombre = 0;
+    for (const auto& [nom, images] : parNom)
+        if (!ChercheBDD(nom)) nombre += images;
+    return nombre;
 }

@@ -13,6 +13,7 @@
 #include "model/echelle.h"
 #include "model/eltbdd.h"
 #include "model/eltimage.h"
+#include "solids/eltimage3d.h"
 #include "zone/etats.h"
 
 namespace {
@@ -154,6 +155,18 @@ TEST(Groupes, UneImageMontreLeGroupeTourneEtAgrandi) {
     EXPECT_EQ(seule.Pixel(350, 150), 0xffffffu);
     EXPECT_EQ(EchelleCourante.Rotation, 0.0);
     EXPECT_EQ(EchelleCourante.Agrandissement, 1.0);
+
+    // What a paste could not show: the drawing has this group, and no other.
+    BDDGeoClipboard collage;
+    collage.ChargeTexte(BddCourante.SauveTexte());
+    EXPECT_EQ(BddCourante.ImagesSansGroupe(collage), 0);
+    for (const char* nom : {"ma_piece", "MA_PIECE", "autre", "autre"}) {
+        auto dansLEspace = std::make_unique<EltImage3d>();
+        dansLEspace->SetIdentificateur(nom);
+        collage.AjouteDebut(std::move(dansLEspace));
+    }
+    EXPECT_EQ(BddCourante.ImagesSansGroupe(collage), 3);
+    EXPECT_EQ(BDDGeo().ImagesSansGroupe(collage), 5);
 
     // Without the groups their images stay.
     banc.Zone.Vue.ChangeAfficheBDD();
