@@ -643,7 +643,48 @@ image_fenetre3d() {
     convert "$bureau/$nom"-[1-3].png -background white -splice 8x0 +append "$bureau/$nom.png"
 }
 
-images="formes segments arcs profils cotes cotes_rondes edition accroche
+# A drawing that an earlier run left behind when it was killed.
+image_recuperation() {
+    local laisse=$bureau/home/krvek
+    rm -rf "$laisse"
+    mkdir -p /tmp/atelier  # It shows in the picture.
+    cp examples/bride_cotee.vek /tmp/atelier/bride.vek
+    demarre /tmp/atelier/bride.vek
+    commande Cercle
+    clic 640 480
+    clic 640 420
+    kill -9 "$programme"
+    wait "$programme" 2> /dev/null || true
+    "$KRVEK" &
+    programme=$!
+    attend "cup"
+    sleep 1
+    import -window "$(trouve "cup")" -strip "$bureau/$nom.png"
+    xdotool key Escape
+    fenetre=$(essaie trouve "KR VEK 1")
+    revient
+    quitte
+    rm -rf "$laisse" /tmp/atelier
+}
+
+# A save into a folder that is gone.
+image_bandeau() {
+    mkdir -p "$bureau/parti"
+    cp examples/bride_cotee.vek "$bureau/parti/bride.vek"
+    demarre "$bureau/parti/bride.vek"
+    commande Cercle
+    clic 640 480
+    clic 640 420
+    rm -rf "$bureau/parti"
+    xdotool key ctrl+s
+    photo "$nom"
+    convert "$bureau/$nom.png" -crop 1280x320+0+60 +repage -resize 760x "$bureau/$nom.png"
+    kill -9 "$programme"
+    wait "$programme" 2> /dev/null || true
+    rm -rf "$bureau/home/krvek"
+}
+
+images="recuperation bandeau formes segments arcs profils cotes cotes_rondes edition accroche
     corps profils_espace tubes percages fenetre3d"
 for image in "$@"; do
     [[ " ${images//$'\n'/ } " == *" $image "* ]] || { echo "No such picture: $image" >&2; exit 1; }

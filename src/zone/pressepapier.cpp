@@ -69,7 +69,17 @@ void PressePapier::Recoit(const Gtk::SelectionData& donnees, int etat) {
     recu->ChargeTexte(donnees.get_data_as_string());
     if (recu->Elements.Nombre() == 0) return;
     if (etat == ETAT_COLLER) recu->TransformeTout(BddCourante.Transforme);
+    DitSansGroupe(BddCourante.ImagesSansGroupe(*recu));
     Outils.EntreCollage(recu, etat);
+}
+
+void PressePapier::DitSansGroupe(int nombre) {
+    if (nombre == 0) return;
+    Dits.emit(nombre == 1 ? Glib::ustring("1 image collée ne montrera rien : son groupe n'est pas "
+                                          "dans ce dessin.")
+                          : Glib::ustring::compose("%1 images collées ne montreront rien : leurs "
+                                                   "groupes ne sont pas dans ce dessin.",
+                                                   nombre));
 }
 
 void PressePapier::ChangeSymetrieX() {

@@ -48,6 +48,9 @@ class PressePapier : public sigc::trackable {
     /// The answer of the clipboard, for the state that pastes it.
     void Recoit(const Gtk::SelectionData& donnees, int etat);
 
+    /// Says how many images of what is being pasted name a group that the drawing has not.
+    void DitSansGroupe(int nombre);
+
     Machine& Outils;
     Gtk::Widget& Zone;
     sigc::signal<void, const Glib::ustring&> Dits;
