@@ -131,6 +131,7 @@ class DessinWindow : public Gtk::Window {
     void SurveilleTravail();
     void LaisseTravail();
     void PrevoitSecours();
+    bool FaitSecoursPrevu();
     void PasseSecours();
 
     /// Says, once, that no copy can be kept; errno says why.

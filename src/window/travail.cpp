@@ -66,13 +66,14 @@ void DessinWindow::LaisseTravail() {
 void DessinWindow::PrevoitSecours() {
     if (SecoursPrevu) return;
     SecoursPrevu = true;
-    // Behind the event that made the change, which may go on.
-    Glib::signal_idle().connect_once(
-        [this] {
-            SecoursPrevu = false;
-            PasseSecours();
-        },
-        Glib::PRIORITY_HIGH_IDLE);
+    // Behind the event that made the change, and what it repaints.
+    Glib::signal_idle().connect(sigc::mem_fun(*this, &DessinWindow::FaitSecoursPrevu));
+}
+
+bool DessinWindow::FaitSecoursPrevu() {
+    SecoursPrevu = false;
+    PasseSecours();
+    return false;
 }
 
 void DessinWindow::PasseSecours() {
