@@ -48,6 +48,12 @@ void Bandeau::CompteCommande() {
     if (get_visible() && ++Commandes >= CommandesMax) Cache();
 }
 
+void Bandeau::on_size_request(Gtk::Requisition* demande) {
+    Gtk::EventBox::on_size_request(demande);
+    // It follows the width of the drawing area, and never keeps the window from becoming narrower.
+    demande->width = 1;
+}
+
 void Bandeau::on_size_allocate(Gtk::Allocation& place) {
     Gtk::EventBox::on_size_allocate(place);
     // The words take what the buttons leave, on as many lines as they need.

@@ -37,6 +37,7 @@ class Bandeau : public Gtk::EventBox {
 
   protected:
     bool on_button_press_event(GdkEventButton* evenement) override;
+    void on_size_request(Gtk::Requisition* demande) override;
     void on_size_allocate(Gtk::Allocation& place) override;
 
   private:
