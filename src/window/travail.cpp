@@ -37,6 +37,8 @@ gboolean Termine(gpointer donnees) {
 /// Once for the program. The toolkit leaves by `exit` when the display is lost.
 void PrepareFin() {
     static const bool faite = [] {
+        // Where files may not grow, a write fails, and the program goes on.
+        std::signal(SIGXFSZ, SIG_IGN);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
             g_unix_signal_add(signal, &Termine, GINT_TO_POINTER(signal));
         return std::atexit(&GardeAvantLaFin) == 0;

@@ -4,6 +4,7 @@
 
 #include <glib/gstdio.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -194,5 +195,36 @@ TEST(Travail, UnEchecLaisseLeTravailAEnregistrer) {
     ASSERT_TRUE(bdd.Enregistre());
     EXPECT_EQ(Contenu(nom + "~"), "VERSION2.3\nold");
     EXPECT_EQ(Contenu(nom + "~1~").substr(0, 10), "VERSION3.3");
+    fs::remove_all(dossier);
+}
+
+TEST(Travail, UnDisquePleinLaisseLAncienFichier) {
+    const std::string dossier = DossierNeuf(), nom = dossier + "/d.vek", lien = dossier + "/l.vek";
+    ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
+    fs::create_symlink("d.vek", lien);
+    BDDGeo bdd;
+    Recuperation secours(bdd, dossier + "/secours");
+    Dessine(bdd);
+    ASSERT_TRUE(bdd.EnregistreSous(lien));
+    const std::string avant = Contenu(nom);
+    Dessine(bdd, 200);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit libre = {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &libre), 0);
+    const rlimit plein = {4096, libre.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &plein), 0);
+    const bool ecrit = bdd.Enregistre();
+    const int erreur = errno;
+    const bool garde = secours.Ecrit("Enregistrement impossible");
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &libre), 0);
+    EXPECT_FALSE(ecrit || garde);
+    EXPECT_EQ(erreur, EFBIG);
+    EXPECT_EQ(Contenu(nom), avant);
+    EXPECT_TRUE(bdd.AEnregistrer());
+    EXPECT_TRUE(bdd.Enregistre());
+    EXPECT_TRUE(fs::is_symlink(lien));
+    EXPECT_GT(Contenu(nom).size(), 10000u);
+    for (const auto& entree : fs::recursive_directory_iterator(dossier))
+        EXPECT_EQ(entree.path().string().find(".vek."), std::string::npos) << "half a file";
     fs::remove_all(dossier);
 }
