@@ -36,11 +36,25 @@ class Tirage {
 
 }  // namespace
 
-std::string TexteMesure(int nombre) {
+namespace {
+
+/// Height of the smallest text, in drawing units, and by how much the tallest is taller.
+constexpr double HauteurTexte = 30.0, EcartHauteurs = 100.0;
+
+/// Each pas-th element is a text; none where that is 0.
+std::string TexteDessin(int nombre, int pas) {
     Tirage tirage;
     BDDGeoBase bdd;
     for (int i = 0; i < nombre; ++i) {
         const PointVek p = tirage.Place(), v = tirage.Taille();
+        if (pas > 0 && i % pas == 0) {
+            auto txt = std::make_unique<EltTxt>();
+            txt->Position = p;
+            txt->SetTexte("Bride " + std::to_string(i / pas));
+            txt->SetTaille(HauteurTexte + EcartHauteurs * i / nombre);
+            bdd.AjouteFin(std::move(txt));
+            continue;
+        }
         if (i % 3 == 0)
             bdd.AjouteFin(std::make_unique<EltSegment>(p, p + v, 0));
         else
@@ -48,6 +62,16 @@ std::string TexteMesure(int nombre) {
                                                    i % 3 == 1 ? DeuxPi : tirage.Angle(), 0));
     }
     return bdd.SauveTexte();
+}
+
+}  // namespace
+
+std::string TexteMesure(int nombre) {
+    return TexteDessin(nombre, 0);
+}
+
+std::string TexteHauteurs(int nombre) {
+    return TexteDessin(nombre, 10);
 }
 
 namespace {

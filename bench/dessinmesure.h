@@ -10,6 +10,10 @@ std::string TexteMesure(int nombre);
 /// dimensions, a third of what takes it hatched, and images of a group.
 std::string TexteFeuille(int nombre);
 
+/// The text of the first drawing, every tenth element of it a text of a height of its own. Each is
+/// large enough to be read where the whole drawing fills a window.
+std::string TexteHauteurs(int nombre);
+
 /// Writes a text to a file of that kind under the temporary folder; answers its name.
 std::string FichierMesure(const std::string& genre, const std::string& texte);
 

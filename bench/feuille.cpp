@@ -1,6 +1,10 @@
 // A sheet of every class: opening, motion, clipboard, hatches.
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <chrono>
+#include <cmath>
 
 #include "dessinmesure.h"
 #include "ecran.h"
@@ -112,8 +116,45 @@ void FeuillePleine(benchmark::State& etat) {
     RepeintDisques(etat, false);
 }
 
+/// A step of zoom among texts of all heights, from the whole sheet to a fiftieth of it, to scales
+/// that were not shown before, or were. Also tells the slowest step, and what memory all took.
+void ZoomTextes(benchmark::State& etat, bool nouvelle) {
+    Ecran ecran(FichierMesure("hauteurs", TexteHauteurs(static_cast<int>(etat.range(0)))));
+    const auto montre = [&ecran](double pas) {
+        const auto debut = std::chrono::steady_clock::now();
+        ecran.Montre(Cote * std::pow(50.0, -pas / 50.0));
+        ecran.Repeint();
+        return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - debut)
+            .count();
+    };
+    const auto prise = [] {
+        const struct mallinfo2 memoire = mallinfo2();
+        return static_cast<double>(memoire.uordblks + memoire.hblkhd) / 1e6;
+    };
+    montre(0);
+    for (int pas = 0; pas < 50 && !nouvelle; ++pas)
+        montre(pas);
+    const double avant = prise();
+    double lent = 0.0;
+    int pas = 0;
+    for (auto _ : etat)
+        lent = std::max(lent, montre(pas++ + (nouvelle ? 0.1 : 0.0)));
+    etat.counters["slowest_ms"] = lent;
+    etat.counters["MB"] = prise() - avant;
+}
+
+void TextesZoom(benchmark::State& etat) {
+    ZoomTextes(etat, true);
+}
+
+void TextesZoomRevu(benchmark::State& etat) {
+    ZoomTextes(etat, false);
+}
+
 BENCHMARK(FeuilleOuverte)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FeuilleMotion)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(TextesZoom)->Arg(100000)->Iterations(50)->Unit(benchmark::kMillisecond);
+BENCHMARK(TextesZoomRevu)->Arg(100000)->Iterations(50)->Unit(benchmark::kMillisecond);
 BENCHMARK(Collage)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(CollageAnnule)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Coupe)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);

@@ -253,6 +253,7 @@ int main(int nombre, char** mots) {
                      3);
     rapports.Temps("sheet of 100,000 opened and painted", "FeuilleOuverte/100000", 1200);
     rapports.Temps("one motion with snapping, sheet of 100,000", "FeuilleMotion/100000", 4);
+    rapports.Temps("step of zoom, 10,000 texts of 10,000 heights", "TextesZoom/100000", 200);
     rapports.Temps("paste of 10,000", "Collage/10000", 100);
     rapports.Temps("undo of that paste", "CollageAnnule/10000", 100);
     rapports.Temps("cut of 10,000", "Coupe/10000", 100);

@@ -5,59 +5,32 @@
 
 #include <cmath>
 
-namespace {
+#include "elements/lettres.h"
 
-/// More than this many characters reach beyond any screen.
-constexpr std::size_t CaracteresMax = 4000;
+namespace {
 
 /// Above this size the pictures of letters, most of them outside the view, cost more than filling
 /// their outlines within it.
 constexpr double TailleContours = 400.0;
 
-/// The one layout of the program, on the fonts of the screen at 96 dots an inch whatever the
-/// desktop says, so that a drawing looks the same everywhere.
-PangoLayout* MiseEnPage() {
-    static PangoLayout* mise = [] {
-        PangoContext* contexte = gdk_pango_context_get_for_screen(gdk_screen_get_default());
-        pango_cairo_context_set_resolution(contexte, 96.0);
-        PangoLayout* neuve = pango_layout_new(contexte);
-        g_object_unref(contexte);
-        return neuve;
-    }();
-    return mise;
-}
-
-void RegleMiseEnPage(PangoLayout* mise, const TexteEcran& texte) {
-    PangoFontDescription* police = pango_font_description_from_string(texte.Police.c_str());
-    pango_font_description_set_weight(police, PANGO_WEIGHT_BOLD);
-    pango_font_description_set_gravity(police, PANGO_GRAVITY_SOUTH);
-    pango_font_description_set_size(police,
-                                    static_cast<int>(std::lround(PANGO_SCALE * texte.Taille)));
-    pango_layout_set_font_description(mise, police);
-    pango_font_description_free(police);
-    pango_layout_set_single_paragraph_mode(mise, TRUE);
-    const Glib::ustring& mots = texte.Texte;
-    pango_layout_set_text(
-        mise, (mots.size() > CaracteresMax ? mots.substr(0, CaracteresMax) : mots).c_str(), -1);
-}
-
 }  // namespace
 
 TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte)
-    : Mise(MiseEnPage()), Angle(texte.Angle), EnContours(texte.Taille > TailleContours) {
-    RegleMiseEnPage(Mise, texte);
-    int w = 0, h = 0;
-    pango_layout_get_pixel_size(Mise, &w, &h);
-    Dispose(texte, w, h);
+    : Taille(CadratinDe(texte.Taille)),
+      Ecran(Lettres::De(texte, Taille)),
+      Angle(texte.Angle),
+      EnContours(texte.Taille > TailleContours) {
+    Dispose(texte, Ecran->Largeur(Taille), Ecran->Montee(Taille) + Ecran->Descente(Taille));
     Depart = {std::round(Depart.x), std::round(Depart.y)};
 }
 
 TexteMisEnPage::TexteMisEnPage(const TexteEcran& texte, PangoLayout* mise)
-    : Mise(mise), Angle(texte.Angle), EnContours(false) {
-    RegleMiseEnPage(Mise, texte);
+    : Taille(texte.Taille * 96.0 / 72.0), Mise(mise), Angle(texte.Angle), EnContours(false) {
+    RegleMiseEnPage(Mise, texte, Cadratin);
     int w = 0, h = 0;
     pango_layout_get_size(Mise, &w, &h);
-    Dispose(texte, 1.0 * w / PANGO_SCALE, 1.0 * h / PANGO_SCALE);
+    const double unite = Taille / Cadratin / PANGO_SCALE;
+    Dispose(texte, w * unite, h * unite);
 }
 
 void TexteMisEnPage::Dispose(const TexteEcran& texte, double w, double h) {
@@ -87,11 +60,11 @@ void TexteMisEnPage::Peint(cairo_t* cr) const {
     cairo_save(cr);
     cairo_translate(cr, Depart.x, Depart.y);
     cairo_rotate(cr, -Angle);
-    cairo_move_to(cr, 0.0, 0.0);
-    if (EnContours) {
-        pango_cairo_layout_path(cr, Mise);
-        cairo_fill(cr);
+    if (Ecran) {
+        Ecran->Peint(cr, Taille, EnContours);
     } else {
+        cairo_scale(cr, Taille / Cadratin, Taille / Cadratin);
+        cairo_move_to(cr, 0.0, 0.0);
         pango_cairo_show_layout(cr, Mise);
     }
     cairo_restore(cr);

@@ -4,7 +4,11 @@
 #include <gdkmm/drawable.h>
 #include <glibmm/ustring.h>
 
+#include <memory>
+
 #include "elements/boite.h"
+
+class Lettres;
 
 typedef struct _PangoLayout PangoLayout;
 typedef struct _cairo cairo_t;
@@ -45,7 +49,9 @@ class TexteMisEnPage {
     /// Where the text stands that is w wide and h high.
     void Dispose(const TexteEcran& texte, double w, double h);
 
-    PangoLayout* Mise;
+    double Taille;                         ///< Side of the square of a letter.
+    std::shared_ptr<const Lettres> Ecran;  ///< For the screen.
+    PangoLayout* Mise = nullptr;           ///< For the page.
     double Angle;
     bool EnContours;  ///< Painted as filled outlines, and not letter by letter.
     PointVek Depart;  ///< Upper left corner of the unturned text.

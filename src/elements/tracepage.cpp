@@ -235,7 +235,7 @@ void TracePage::Hachures() {
 }
 
 void TracePage::Texte(const TexteEcran& texte, const Gdk::Color& couleur) {
-    if (!(texte.Taille > 0.0 && texte.Taille < Limite) || !texte.Ancre.EstFini()) return;
+    if (!(texte.Taille > 1.0 / Limite && texte.Taille < Limite) || !texte.Ancre.EstFini()) return;
     const TexteMisEnPage mise(texte, Mise);
     if (!mise.Cadre().Touche(Zone)) return;
     Encre(couleur);
