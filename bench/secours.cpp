@@ -1,4 +1,5 @@
-// What the net under the work costs: a copy of what is not saved, beside a save of the same drawing.
+// What the net under the work costs: a copy of what is not saved, beside a save of the same
+// drawing.
 
 #include <benchmark/benchmark.h>
 #include <glib.h>

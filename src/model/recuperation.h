@@ -89,6 +89,6 @@ class Recuperation {
     unsigned long DerniersChangements = 0;          ///< The drawing's count at the last copy.
     bool DejaEcrit = false;
     unsigned long ChangementsGardes = 0;  ///< The drawing's count at the last kept copy; 0: none.
-    double DerniereFin = 0.0;    ///< Seconds on a clock that never goes back.
-    double DerniereDuree = 0.0;  ///< What the last copy took, in seconds.
+    double DerniereFin = 0.0;             ///< Seconds on a clock that never goes back.
+    double DerniereDuree = 0.0;           ///< What the last copy took, in seconds.
 };

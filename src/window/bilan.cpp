@@ -72,8 +72,7 @@ void DessinWindow::DitLecture(bool abandon) {
     std::vector<Bandeau::Issue> issues;
     if (abandon) {
         texte = "Le dessin d'avant n'était pas enregistré : une copie est gardée. " + texte;
-        issues = {
-            {"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}};
+        issues = {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}};
     }
     if (!texte.empty()) Messages.Dit(texte, issues);
 }

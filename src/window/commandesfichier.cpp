@@ -181,7 +181,8 @@ bool DessinWindow::ConfirmeFermeture() {
     if (!BddCourante.AEnregistrer()) return true;
     std::string nom = BddCourante.NomFichier;
     const int reponse = BddCourante.Nomme ? QuestionEnregistrer(*this).run()
-                                          : ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier, nom, true, NomPropose);
+                                          : ChoisitEcriture(*this, Ecriture, BddCourante.NomFichier,
+                                                            nom, true, NomPropose);
     if (reponse == Gtk::RESPONSE_OK) {
         if (!ApresEcriture(BddCourante.EnregistreSous(nom))) return false;
         LaisseEcrireRecents();

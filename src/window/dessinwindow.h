@@ -149,14 +149,14 @@ class DessinWindow : public Gtk::Window {
     bool Abandonne();
     void Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&, std::string), bool demande);
 
-    /// Says what the reading of a file has left out; with abandon also that the drawing before it was
-    /// not saved.
+    /// Says what the reading of a file has left out; with abandon also that the drawing before it
+    /// was not saved.
     void DitLecture(bool abandon = false);
     void Reprend(const CopieSecours& copie);
 
     Window3D Fenetre3D;
-    Gtk::Table Cadre;     ///< The drawing area with the strip over its upper edge.
-    Gtk::Alignment Bord;  ///< Of the strip.
+    Gtk::Table Cadre;        ///< The drawing area with the strip over its upper edge.
+    Gtk::Alignment Bord;     ///< Of the strip.
     std::string NomPropose;  ///< For the first save of a drawing that was taken back.
     bool SecoursPrevu = false;
     bool SansSecoursDit = false;

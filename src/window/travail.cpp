@@ -51,8 +51,7 @@ void PrepareFin() {
 void DessinWindow::SurveilleTravail() {
     SecoursEnCours = &Secours;
     PrepareFin();
-    Zone.Presse.SignalDit().connect(
-        [this](const Glib::ustring& texte) { Messages.Dit(texte); });
+    Zone.Presse.SignalDit().connect([this](const Glib::ustring& texte) { Messages.Dit(texte); });
     BddCourante.SignalChangement().connect(sigc::mem_fun(*this, &DessinWindow::PrevoitSecours));
     // A change that came too soon after a copy is kept by a later motion.
     Zone.Souris.SignalPosition().connect(

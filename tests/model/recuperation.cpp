@@ -39,7 +39,9 @@ pid_t Lance(const std::string& dossier) {
     if (enfant == 0) {
         BDDGeo bdd;
         Recuperation secours(bdd, dossier);
-        bdd.NomFichier = "/tmp/pi\n\xe8" "ce 100%.vek";
+        bdd.NomFichier =
+            "/tmp/pi\n\xe8"
+            "ce 100%.vek";
         Dessine(bdd, 3);
         const char ecrit = secours.Passe() ? 'o' : 'n';
         [[maybe_unused]] const auto dit = write(tube[1], &ecrit, 1);
@@ -68,7 +70,9 @@ TEST(Recuperation, CeQuUnProgrammeTueALaisse) {
     waitpid(enfant, nullptr, 0);
     const auto copies = secours.Orphelines();
     ASSERT_EQ(copies.size(), 1u);
-    EXPECT_EQ(copies[0].Nom, "/tmp/pi\n\xe8" "ce 100%.vek");
+    EXPECT_EQ(copies[0].Nom,
+              "/tmp/pi\n\xe8"
+              "ce 100%.vek");
     EXPECT_EQ(copies[0].Elements, 3);
     struct stat etat = {};
     ASSERT_EQ(stat(copies[0].Fichier.c_str(), &etat), 0);
@@ -131,7 +135,8 @@ TEST(Recuperation, NEcritQueCeQuiEstNouveauEtAssezTard) {
 TEST(Recuperation, GardeLesPlusNeuvesParmiNImporteQuoi) {
     const std::string dossier = DossierNeuf();
     ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
-    const char* const etrangers[] = {"copie-.vek", "copie-abc.vek", "encours-zut.vek", "lettre.txt"};
+    const char* const etrangers[] = {"copie-.vek", "copie-abc.vek", "encours-zut.vek",
+                                     "lettre.txt"};
     for (const char* nom : etrangers)
         ASSERT_TRUE(EcritFichier(dossier + "/" + nom, "\n#copie de secours\ndate -7\nnom xzz\n"));
     fs::create_directory(dossier + "/copie-000000099-1.vek");

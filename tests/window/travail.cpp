@@ -1,5 +1,5 @@
-// What was drawn is not lost: not by an undo after a save, nor by a save that fails, a command that is
-// given up, a drawing that is replaced, a file that is something else.
+// What was drawn is not lost: not by an undo after a save, nor by a save that fails, a command that
+// is given up, a drawing that is replaced, a file that is something else.
 
 #include <gdk/gdkkeysyms.h>
 #include <gtest/gtest.h>
@@ -139,8 +139,9 @@ TEST(Travail, UnFichierEtrangerGardeUneCopie) {
     ASSERT_TRUE(EcritFichier(photo, octets));
     RepondDialogue(Gtk::RESPONSE_OK);
     bureau.Fenetre.OuvreFichier(photo);
-    EXPECT_EQ(bureau.Dit(), "« photo.png » n'est pas un dessin. Le premier enregistrement gardera "
-                            "l'original sous photo.png~.");
+    EXPECT_EQ(bureau.Dit(),
+              "« photo.png » n'est pas un dessin. Le premier enregistrement gardera "
+              "l'original sous photo.png~.");
     bureau.Segment(0);
     bureau.Choisit("Save");
     EXPECT_EQ(Nombre(photo), 1);
