@@ -21,7 +21,7 @@ struct EntiteDxf {
         return Donne[rang] ? Points[rang] : sinon;
     }
 
-    /// The number of a group from 40 to 59, angles in degrees, where the entity gives it.
+    /// The number of a group from 40 to 59, as it stands in the text, where the entity gives it.
     double Reel(int code, double sinon = 0.0) const;
 
     std::string_view Genre;          ///< Name of the entity, group 0.

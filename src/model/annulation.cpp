@@ -99,5 +99,6 @@ bool Historique::Annule() {
     const std::unique_ptr<Pas> pas = std::move(Faits.back());
     Faits.pop_back();
     pas->Defait(Bdd);
+    Bdd.NoteChangement();
     return true;
 }

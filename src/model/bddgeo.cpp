@@ -176,9 +176,7 @@ void BDDGeo::NoteChangement() {
 }
 
 bool BDDGeo::Annule() {
-    if (!Histoire.Annule()) return false;
-    NoteChangement();
-    return true;
+    return Histoire.Annule();
 }
 
 void BDDGeo::Remplace(EltGeo& cible, const EltGeo& source) {

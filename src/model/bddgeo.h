@@ -142,6 +142,9 @@ class BDDGeo : public BDDGeoBase {
 
     // What the steps of the history are made of: nothing is remembered.
 
+    /// Something that a file would hold has changed.
+    void NoteChangement();
+
     /// Takes an element in behind the first rang ones.
     void Insere(std::unique_ptr<EltGeo> elt, int rang);
 
@@ -172,9 +175,6 @@ class BDDGeo : public BDDGeoBase {
   private:
     template <class Admet>
     EltGeo* ChercheSelon(const PointVek& p, bool support, const Admet& admet, double& distance);
-
-    /// Something that a file would hold has changed.
-    void NoteChangement();
 
     /// Unlinks the element, which has left the list, from its parents and children.
     void Delie(EltGeo& elt, bool garde);

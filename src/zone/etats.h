@@ -1,7 +1,7 @@
 #pragma once
 
 /// The states of the tool machine. The numbers are fixed; those of tools beyond the first menus go
-/// from 1001 on.
+/// from 1001 on, behind `NOMBRE_ETATS`, which counts the first ones.
 enum Etat {
     ETAT_REPOS = 0,
     ETAT_MODIFIE = 1,
