@@ -49,6 +49,7 @@ void BDDGeo::Vide() {
     Nomme = false;
     NomFichier.clear();
     Original.clear();
+    EtatFichier.clear();
     NbEcrits = ++NbChangements;
     Lecture = {};
 }
@@ -357,18 +358,25 @@ void BDDGeo::Ouvre(std::string nom) {
     Nomme = true;
     Lecture = etat == BilanLecture::Lu ? LitTexte(texte) : BilanLecture::Refus(etat);
     const bool present = texte.compare(0, VersionPresente.size(), VersionPresente) == 0;
-    if (!present || !Lecture.RienPerdu()) Original = NomFichier;
+    const bool fichier =
+        Lecture.Fichier != BilanLecture::Absent && Lecture.Fichier != BilanLecture::Dossier;
+    if (fichier && (!present || !Lecture.RienPerdu())) Original = NomFichier;
+    EtatFichier = EtatDuFichier(NomFichier);
 }
 
 void BDDGeo::Recupere(std::string_view texte, std::string nom) {
     Vide();
     NomFichier = std::move(nom);
+    // What is there now was not read.
+    Original = NomFichier;
     LitTexte(texte);
     Modifie = true;
     NoteChangement();
 }
 
 bool BDDGeo::EnregistreSous(std::string nom) {
+    // Another file was agreed upon as it is.
+    if (nom != NomFichier) EtatFichier.clear();
     NomFichier = std::move(nom);
     Nomme = true;
     return Enregistre();
@@ -385,7 +393,10 @@ bool MemeFichier(const std::string& a, const std::string& b) {
 }  // namespace
 
 bool BDDGeo::GarderaOriginal() const {
-    return Nomme && !Original.empty() && MemeFichier(Original, NomFichier);
+    if (!Nomme) return false;
+    if (!Original.empty() && MemeFichier(Original, NomFichier)) return true;
+    const std::string etat = EtatDuFichier(NomFichier);
+    return !EtatFichier.empty() && !etat.empty() && etat != EtatFichier;
 }
 
 bool BDDGeo::Enregistre() {
@@ -397,9 +408,10 @@ bool BDDGeo::Enregistre() {
     NbEcrits = NbChangements - 1;
     Ecrivain sortie;
     Sauve(sortie);
-    if (GarderaOriginal() && GardeACote(Original).empty()) return false;
+    if (GarderaOriginal() && GardeACote(NomFichier).empty()) return false;
     if (!EcritFichier(NomFichier, sortie.Texte())) return false;
     Original.clear();
+    EtatFichier = EtatDuFichier(NomFichier);
     NbEcrits = NbChangements;
     return true;
 }

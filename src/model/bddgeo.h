@@ -120,7 +120,8 @@ class BDDGeo : public BDDGeoBase {
     /// it was to go to, empty for none. It is to be saved, under a name that will be asked for.
     void Recupere(std::string_view texte, std::string nom);
 
-    /// Whether the next writing to the drawing's file keeps the former one beside it.
+    /// Whether the next writing to the drawing's file keeps the former one beside it: not all of it
+    /// was read, or something else has written it since.
     bool GarderaOriginal() const;
 
     /// Whether the drawing differs from what has reached the disk: `Modifie` does not tell what an
@@ -186,6 +187,7 @@ class BDDGeo : public BDDGeoBase {
     mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;
     unsigned long NbChangements = 0;
+    std::string EtatFichier;     ///< Of the drawing's file when it was last read or written.
     unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
     sigc::signal<void> SignauxChangement;
     sigc::signal<void, const EltGeo*> Reprise;

@@ -173,13 +173,21 @@ bool EcritFichier(const std::string& chemin, std::string_view contenu) {
     return issue == Issue::Ecrit;
 }
 
+std::string EtatDuFichier(const std::string& chemin) {
+    struct stat etat = {};
+    if (stat(chemin.c_str(), &etat) != 0 || !S_ISREG(etat.st_mode)) return {};
+    return std::to_string(etat.st_ino) + ' ' + std::to_string(etat.st_size) + ' ' +
+           std::to_string(etat.st_mtim.tv_sec) + ' ' + std::to_string(etat.st_mtim.tv_nsec);
+}
+
 std::string GardeACote(const std::string& chemin) {
+    const std::string fichier = SansLien(chemin);
     std::string contenu;
     struct stat etat = {};
-    if (stat(chemin.c_str(), &etat) != 0 || !LitFichier(chemin, contenu)) return {};
+    if (stat(fichier.c_str(), &etat) != 0 || !LitFichier(fichier, contenu)) return {};
     constexpr int essaisMax = 10000;
     for (int essai = 0; essai < essaisMax; ++essai) {
-        const std::string nom = chemin + (essai ? "~" + std::to_string(essai) + "~" : "~");
+        const std::string nom = fichier + (essai ? "~" + std::to_string(essai) + "~" : "~");
         Descripteur copie(open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
         if (!copie.Ouvert() && errno == EEXIST) continue;
         if (!copie.Ouvert()) return {};

@@ -16,6 +16,10 @@ BilanLecture::Etat LitFichierOuDit(const std::string& chemin, std::string& conte
 /// that takes no new one, is written in place. False when it cannot be written; errno says why.
 bool EcritFichier(const std::string& chemin, std::string_view contenu);
 
-/// Copies the file to its name with a tilde behind, never over an existing one, with the same
-/// rights. The name of the copy; empty when it cannot be made; errno says why.
+/// Tells one state of a file from another, whoever wrote it; empty for what is no file.
+std::string EtatDuFichier(const std::string& chemin);
+
+/// Copies the file, or the one that a link leads to, to its name with a tilde behind, never over an
+/// existing one, with the same rights. The name of the copy; empty when it cannot be made; errno
+/// says why.
 std::string GardeACote(const std::string& chemin);

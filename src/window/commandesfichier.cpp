@@ -3,6 +3,7 @@
 #include <glibmm/convert.h>
 #include <glibmm/fileutils.h>
 #include <glibmm/main.h>
+#include <gtkmm/label.h>
 #include <gtkmm/main.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/recentaction.h>
@@ -10,6 +11,7 @@
 #include <gtkmm/stock.h>
 
 #include "dialogs/choixfichier.h"
+#include "dialogs/raisons.h"
 #include "exchange/dxf.h"
 #include "exchange/importancien.h"
 #include "model/bddgeo.h"
@@ -33,6 +35,12 @@ class QuestionEnregistrer : public Gtk::MessageDialog {
                              true) {
         AjouteNon(*this);
         set_default_response(Gtk::RESPONSE_OK);
+        // A long name goes on behind the edge of the line, not of the screen.
+        std::vector<Gtk::Widget*> mots =
+            dynamic_cast<Gtk::Container&>(*get_message_area()).get_children();
+        for (Gtk::Widget* mot : mots)
+            if (auto* libelle = dynamic_cast<Gtk::Label*>(mot))
+                libelle->set_line_wrap_mode(Pango::WRAP_WORD_CHAR);
     }
 
   private:
@@ -42,6 +50,11 @@ class QuestionEnregistrer : public Gtk::MessageDialog {
                " ?";
     }
 };
+
+/// Whether there is something that is not saved.
+bool TravailEnSuspens() {
+    return BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+}
 
 bool EstFichier(const std::string& nom) {
     return Glib::file_test(nom, Glib::FILE_TEST_IS_REGULAR);
@@ -85,18 +98,23 @@ void LaisseEcrireRecents() {
 }  // namespace
 
 void DessinWindow::New() {
-    if (!PeutRemplacer(true) || !Abandonne()) return;
+    if (!PeutRemplacer(true)) return;
+    const bool abandon = TravailEnSuspens();
+    if (!Abandonne()) return;
     Zone.Nouveau();
     MetTitre();
+    DitLecture(abandon);
 }
 
 void DessinWindow::Open() {
     if (!PeutRemplacer(true)) return;
     const std::string nom = ChoisitLecture(*this, Lecture, BddCourante.NomFichier);
-    if (nom.empty() || !Abandonne()) return;
+    if (nom.empty()) return;
+    const bool abandon = TravailEnSuspens();
+    if (!Abandonne()) return;
     Zone.OuvreZone(nom);
     MetTitre();
-    DitLecture();
+    DitLecture(abandon);
 }
 
 void DessinWindow::RecentFiles() {
@@ -106,9 +124,10 @@ void DessinWindow::RecentFiles() {
     const std::string nom = FichierRecent(uri);
     if (nom.empty()) {
         OublieRecent(uri);
+        Messages.Dit("Ce dessin n'est plus là.");
         return;
     }
-    const bool abandon = BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    const bool abandon = TravailEnSuspens();
     if (!Abandonne()) return;
     Zone.OuvreZone(nom);
     MetTitre();
@@ -119,7 +138,11 @@ void DessinWindow::Save() {
     if (!BddCourante.AEnregistrer()) {
         MetTitre();
     } else if (BddCourante.Nomme) {
-        ApresEcriture(BddCourante.Enregistre());
+        const bool autre = BddCourante.Original.empty() && BddCourante.GarderaOriginal();
+        if (ApresEcriture(BddCourante.Enregistre()) && autre)
+            Messages.Dit(EntreGuillemets(BddCourante.NomFichier) +
+                         " avait été changé par un autre programme : ce qu'il contenait est gardé "
+                         "à côté de lui.");
     } else {
         SaveAs();
         MetTitre();
@@ -139,8 +162,7 @@ void DessinWindow::Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&,
     if (!PeutRemplacer(demande)) return;
     const std::string nom = ChoisitLecture(*this, genre, BddCourante.NomFichier);
     if (nom.empty()) return;
-    const bool abandon =
-        !demande && BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    const bool abandon = TravailEnSuspens();
     if (!Abandonne()) return;
     Zone.Importe(importeur, nom);
     DitLecture(abandon);

@@ -57,8 +57,12 @@ void DessinWindow::ConstruitMenus() {
     add_accel_group(GestionnaireUI->get_accel_group());
     GestionnaireUI->add_ui_from_string(DefinitionMenus());
     AjouteComplements();
-    GestionnaireUI->signal_post_activate().connect(
-        sigc::hide(sigc::mem_fun(Messages, &Bandeau::CompteCommande)));
+    GestionnaireUI->signal_pre_activate().connect(
+        sigc::hide(sigc::mem_fun(Messages, &Bandeau::CommenceCommande)));
+    GestionnaireUI->signal_post_activate().connect([this](const Glib::RefPtr<Gtk::Action>& action) {
+        // Opening a menu is no command.
+        if (action->get_name().compare(0, 4, "Menu") != 0) Messages.CompteCommande();
+    });
 
     auto* menu = dynamic_cast<Gtk::MenuBar*>(GestionnaireUI->get_widget("/MenuBar"));
     menu->modify_bg(Gtk::STATE_NORMAL, Gdk::Color("#FFFFEA"));

@@ -102,11 +102,9 @@ std::optional<CopieSecours> RecuperationDialog::Demande() {
     for (;;) {
         const int reponse = run();
         const auto choisie = Liste.get_selection()->get_selected();
-        if (reponse == ReponseJette)
-            JetteChoisie();
-        else if (reponse == Gtk::RESPONSE_OK && choisie)
-            return Copies[(*choisie)[Champs.Rang]];
-        else
-            return {};
+        if (reponse == Gtk::RESPONSE_OK && choisie) return Copies[(*choisie)[Champs.Rang]];
+        if (reponse != ReponseJette) return {};
+        JetteChoisie();
+        if (Lignes->children().empty()) return {};
     }
 }

@@ -98,6 +98,7 @@ bool DessinWindow::ApresEcriture(bool ecrit) {
         NomPropose.clear();
         return true;
     }
+    NomPropose = Glib::path_get_basename(BddCourante.NomFichier);
     const Glib::ustring raison = Raison(erreur);
     const bool garde = Secours.Garde("Enregistrement impossible");
     Messages.Dit(EntreGuillemets(BddCourante.NomFichier) + " n'a pas pu être écrit" +

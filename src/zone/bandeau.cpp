@@ -13,6 +13,9 @@ void RetireFocus(Gtk::Widget& bouton) {
 
 Bandeau::Bandeau() {
     Libelle.set_line_wrap(true);
+    Libelle.set_line_wrap_mode(Pango::WRAP_WORD_CHAR);
+    // The toolkit's bar is light whatever the theme.
+    Libelle.modify_fg(Gtk::STATE_NORMAL, Gdk::Color("#000000"));
     Libelle.set_alignment(Gtk::ALIGN_LEFT);
     auto* contenu = dynamic_cast<Gtk::Container*>(Barre.get_content_area());
     contenu->add(Libelle);
@@ -26,7 +29,7 @@ Bandeau::Bandeau() {
 
 void Bandeau::Dit(const Glib::ustring& texte, std::vector<Issue> issues) {
     Issues = std::move(issues);
-    Commandes = 0;
+    Commandes = EnCommande ? -1 : 0;  // The one that has it said is not a further one.
     Libelle.set_text(texte);
     auto& boutons = dynamic_cast<Gtk::Container&>(*Barre.get_action_area());
     for (Gtk::Widget* bouton : boutons.get_children())
@@ -45,6 +48,7 @@ Glib::ustring Bandeau::Texte() const {
 }
 
 void Bandeau::CompteCommande() {
+    EnCommande = false;
     if (get_visible() && ++Commandes >= CommandesMax) Cache();
 }
 

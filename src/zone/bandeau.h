@@ -32,7 +32,8 @@ class Bandeau : public Gtk::EventBox {
     /// Says nothing any more.
     void Cache();
 
-    /// A command has been given.
+    /// A command begins, and has been given.
+    void CommenceCommande() { EnCommande = true; }
     void CompteCommande();
 
   protected:
@@ -46,5 +47,6 @@ class Bandeau : public Gtk::EventBox {
     Gtk::InfoBar Barre;
     Gtk::Label Libelle;
     std::vector<Issue> Issues;
-    int Commandes = 0;
+    bool EnCommande = false;
+    int Commandes = 0;  ///< Given since it was said.
 };

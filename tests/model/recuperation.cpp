@@ -196,10 +196,11 @@ TEST(Travail, UnEchecLaisseLeTravailAEnregistrer) {
     }
     EXPECT_TRUE(fs::is_symlink(dossier + "/lien2.vek"));
     EXPECT_EQ(fs::status(nom + "~").permissions(), fs::status(nom).permissions());
-    bdd.Original = nom;
+    // Nor is what another program has written there meanwhile lost.
+    ASSERT_TRUE(EcritFichier(nom, "VERSION3.3\n1\n10000\n-1\n"));
     ASSERT_TRUE(bdd.Enregistre());
     EXPECT_EQ(Contenu(nom + "~"), "VERSION2.3\nold");
-    EXPECT_EQ(Contenu(nom + "~1~").substr(0, 10), "VERSION3.3");
+    EXPECT_EQ(Contenu(nom + "~1~"), "VERSION3.3\n1\n10000\n-1\n");
     fs::remove_all(dossier);
 }
 
