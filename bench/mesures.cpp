@@ -284,8 +284,7 @@ int main(int nombre, char** mots) {
     rapports.Part("share of the net while 100,000 are edited", "CopieSecourue/100000", 10.0, 50.0);
     rapports.Part("share of the net while 1,000,000 are edited", "CopieSecourue/1000000", 10.0,
                   50.0);
-    rapports.Compare("1,000 edits looked after / not", "EditionsSecourues/100000",
-                     "EditionsNues/100000", 1.5);
+    rapports.Temps("1,000 edits looked after, 100,000 elements", "EditionsSecourues/100000", 1);
     AfficheMemoire(100000);
     return 0;
 }
