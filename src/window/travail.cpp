@@ -149,6 +149,10 @@ void DessinWindow::ProposeRecuperation() {
 
 void DessinWindow::Reprend(const CopieSecours& copie) {
     const std::string texte = Recuperation::Texte(copie);
+    if (texte.empty()) {
+        Messages.Dit("Cette copie ne peut plus être lue.");
+        return;
+    }
     if (!PeutRemplacer(true) || !Abandonne()) return;
     BddCourante.Recupere(texte, copie.Nom);
     if (!copie.Nom.empty()) NomPropose = Glib::path_get_basename(copie.Nom);
