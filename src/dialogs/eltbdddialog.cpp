@@ -11,7 +11,7 @@ class EltBDDDialog : public EltGeoDialog {
   public:
     explicit EltBDDDialog(EltBDD& groupe)
         : EltGeoDialog("BDD", groupe), Identificateur(groupe.Identificateur) {
-        AjouteChamp("Identificateur", Identificateur, UnNomDeBDD());
+        AjouteChamp("Identificateur", Identificateur);
     }
 
   private:
@@ -26,7 +26,7 @@ class EltBDDDialog : public EltGeoDialog {
 class EltImageDialog : public EltGeoDialog {
   public:
     explicit EltImageDialog(EltImage& image) : EltGeoDialog("Image de bdd", image), Image(image) {
-        AjouteChamp("Identificateur", Image.Identificateur, UnNomDeBDD());
+        AjouteChamp("Identificateur", Image.Identificateur);
         AjouteChamp("angle", Image.Angle, UnNombre());
         AjouteChamp("Agrandissement", Image.Agrandissement, PlusQue(0.0, "L'agrandissement"));
     }

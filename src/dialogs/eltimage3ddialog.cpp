@@ -10,7 +10,7 @@ class EltImage3dDialog : public Elt3dDialog {
   public:
     explicit EltImage3dDialog(EltImage3d& image)
         : Elt3dDialog("Image de bdd", image, image), Image(image) {
-        AjouteChamp("Identificateur", Image.Identificateur, UnNomDeBDD());
+        AjouteChamp("Identificateur", Image.Identificateur);
         AjouteChamp("angle", Image.Angle, UnNombre());
         AjouteChamp("Agrandissement", Image.Agrandissement, PlusQue(0.0, "L'agrandissement"));
         AjouteChamps3d();

@@ -1,7 +1,5 @@
 #include "dialogs/examens.h"
 
-#include <glib.h>
-
 #include "dialogs/nombres.h"
 
 namespace {
@@ -16,10 +14,11 @@ Examen Nombre(const Admet& admet, const Glib::ustring& phrase) {
     };
 }
 
-bool ContientNombre(const Glib::ustring& texte) {
-    char* fin = nullptr;
-    g_ascii_strtod(texte.c_str(), &fin);
-    return fin != texte.c_str();
+/// Any number that is typed, a text without one is none.
+Examen NombreTape(const Glib::ustring& phrase) {
+    return [phrase](const Glib::ustring& texte) -> Glib::ustring {
+        return ContientNombre(texte) ? UnNombre()(texte) : phrase;
+    };
 }
 
 }  // namespace
@@ -53,14 +52,15 @@ Examen UnEntier(int mini, int maxi, const Glib::ustring& quoi) {
                   quoi + " doit aller de " + TexteNombre(mini) + " à " + TexteNombre(maxi) + ".");
 }
 
-Examen UnCalque() {
-    return [](const Glib::ustring& texte) -> Glib::ustring {
-        return ContientNombre(texte) ? UnNombre()(texte) : "Il faut le numéro d'un calque.";
-    };
+Examen EntierAuMoins(int mini, const Glib::ustring& quoi) {
+    return Nombre([mini](double x) { return EnEntier(x) >= mini; },
+                  quoi + " doit valoir " + TexteNombre(mini) + " au moins.");
 }
 
-Examen UnNomDeBDD() {
-    return [](const Glib::ustring& texte) -> Glib::ustring {
-        return texte.empty() ? "Il faut le nom d'une BDD." : "";
-    };
+Examen UnCalque() {
+    return NombreTape("Il faut le numéro d'un calque.");
+}
+
+Examen UneDistance() {
+    return NombreTape("Il faut une distance.");
 }

@@ -29,8 +29,11 @@ Examen NonNul(const Glib::ustring& quoi);
 /// A number that is rounded, from mini to maxi.
 Examen UnEntier(int mini, int maxi, const Glib::ustring& quoi);
 
+/// mini or more once it is rounded.
+Examen EntierAuMoins(int mini, const Glib::ustring& quoi);
+
 /// A number that has to be typed: a layer that nobody named is not layer 0.
 Examen UnCalque();
 
-/// The name of a group.
-Examen UnNomDeBDD();
+/// The same for a distance.
+Examen UneDistance();

@@ -29,9 +29,26 @@ Glib::ustring TexteNombre(double valeur) {
     return std::string(texte, fin.ptr);
 }
 
-std::optional<double> LitNombre(const Glib::ustring& texte) {
+namespace {
+
+/// Comma and point are both decimal signs.
+std::string AvecPoint(const Glib::ustring& texte) {
     std::string nombre = texte.raw();
     std::replace(nombre.begin(), nombre.end(), ',', '.');
+    return nombre;
+}
+
+}  // namespace
+
+bool ContientNombre(const Glib::ustring& texte) {
+    const std::string nombre = AvecPoint(texte);
+    char* fin = nullptr;
+    g_ascii_strtod(nombre.c_str(), &fin);
+    return fin != nombre.c_str();
+}
+
+std::optional<double> LitNombre(const Glib::ustring& texte) {
+    const std::string nombre = AvecPoint(texte);
     // The function of the C library: its C++ cover throws on 1e400.
     const double valeur = g_ascii_strtod(nombre.c_str(), nullptr);
     if (!std::isfinite(valeur)) return std::nullopt;

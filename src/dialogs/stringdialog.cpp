@@ -1,7 +1,7 @@
 #include "dialogs/stringdialog.h"
 
-StringDialog::StringDialog(const Glib::ustring& titre, Glib::ustring* valeur, Examen examen)
-    : SaisieDialog(titre), Valeur(valeur), Champ(*valeur), Regle(std::move(examen)) {
+StringDialog::StringDialog(const Glib::ustring& titre, Glib::ustring* valeur)
+    : SaisieDialog(titre), Valeur(valeur), Champ(*valeur) {
     AjouteLigne(Champ);
 }
 

@@ -6,6 +6,7 @@
 #include <gtkmm/recentmanager.h>
 
 #include <filesystem>
+#include <functional>
 #include <unordered_set>
 
 #include "elements/ecrivain.h"
@@ -361,7 +362,12 @@ void BDDGeo::Ouvre(std::string nom) {
     const bool fichier =
         Lecture.Fichier != BilanLecture::Absent && Lecture.Fichier != BilanLecture::Dossier;
     if (fichier && (!present || !Lecture.RienPerdu())) Original = NomFichier;
+    NoteFichier(texte);
+}
+
+void BDDGeo::NoteFichier(std::string_view contenu) {
     EtatFichier = EtatDuFichier(NomFichier);
+    EmpreinteFichier = std::hash<std::string_view>()(contenu);
 }
 
 void BDDGeo::Recupere(std::string_view texte, std::string nom) {
@@ -396,7 +402,11 @@ bool BDDGeo::GarderaOriginal() const {
     if (!Nomme) return false;
     if (!Original.empty() && MemeFichier(Original, NomFichier)) return true;
     const std::string etat = EtatDuFichier(NomFichier);
-    return !EtatFichier.empty() && !etat.empty() && etat != EtatFichier;
+    if (EtatFichier.empty() || etat.empty() || etat == EtatFichier) return false;
+    // It may have been touched alone, or put back as it was.
+    std::string contenu;
+    return !LitFichier(NomFichier, contenu) ||
+           std::hash<std::string_view>()(contenu) != EmpreinteFichier;
 }
 
 bool BDDGeo::Enregistre() {
@@ -408,10 +418,12 @@ bool BDDGeo::Enregistre() {
     NbEcrits = NbChangements - 1;
     Ecrivain sortie;
     Sauve(sortie);
-    if (GarderaOriginal() && GardeACote(NomFichier).empty()) return false;
+    OriginalGarde.clear();
+    if (GarderaOriginal() && (OriginalGarde = GardeACote(NomFichier)).empty()) return false;
     if (!EcritFichier(NomFichier, sortie.Texte())) return false;
-    Original.clear();
-    EtatFichier = EtatDuFichier(NomFichier);
+    // What was read in part may be saved elsewhere first.
+    if (!OriginalGarde.empty()) Original.clear();
+    NoteFichier(sortie.Texte());
     NbEcrits = NbChangements;
     return true;
 }

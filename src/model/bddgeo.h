@@ -3,6 +3,7 @@
 #include <sigc++/signal.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/annulation.h"
@@ -173,7 +174,13 @@ class BDDGeo : public BDDGeoBase {
     /// is kept under another name. Empty for none.
     std::string Original;
 
+    /// Where the last writing put what the file held before; empty for nowhere.
+    std::string OriginalGarde;
+
   private:
+    /// The drawing's file holds that now.
+    void NoteFichier(std::string_view contenu);
+
     template <class Admet>
     EltGeo* ChercheSelon(const PointVek& p, bool support, const Admet& admet, double& distance);
 
@@ -187,7 +194,8 @@ class BDDGeo : public BDDGeoBase {
     mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;
     unsigned long NbChangements = 0;
-    std::string EtatFichier;     ///< Of the drawing's file when it was last read or written.
+    std::string EtatFichier;           ///< Of the drawing's file when it was last read or written.
+    std::size_t EmpreinteFichier = 0;  ///< Of its content then.
     unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
     sigc::signal<void> SignauxChangement;
     sigc::signal<void, const EltGeo*> Reprise;

@@ -194,7 +194,7 @@ bool Recuperation::Passe() {
     if (!Bdd.AEnregistrer() || (DejaEcrit && DerniersChangements == Bdd.Changements())) return true;
     const double attente = std::max(Intervalle, PartDuTemps * DerniereDuree);
     if (DerniereFin > 0.0 && Instant() - DerniereFin < attente) return true;
-    return Ecrit("Travail en cours");
+    return Ecrit("Travail non enregistré");
 }
 
 bool Recuperation::Ecrit(const char* raison) {

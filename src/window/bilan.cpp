@@ -63,14 +63,14 @@ Glib::ustring Constat(const BilanLecture& bilan, const Glib::ustring& nom) {
 
 }  // namespace
 
-void DessinWindow::DitLecture(bool abandon) {
+void DessinWindow::DitLecture(bool garde) {
     const std::string& fichier = BddCourante.NomFichier;
     Glib::ustring texte = Constat(BddCourante.Lecture, EntreGuillemets(fichier));
     if (!texte.empty() && BddCourante.GarderaOriginal())
         texte += " Le premier enregistrement gardera l'original sous " +
                  Glib::filename_display_basename(fichier) + "~.";
     std::vector<Bandeau::Issue> issues;
-    if (abandon) {
+    if (garde) {
         texte = "Le dessin d'avant n'était pas enregistré : une copie est gardée. " + texte;
         issues = {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}};
     }

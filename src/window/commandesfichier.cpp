@@ -51,11 +51,6 @@ class QuestionEnregistrer : public Gtk::MessageDialog {
     }
 };
 
-/// Whether there is something that is not saved.
-bool TravailEnSuspens() {
-    return BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
-}
-
 bool EstFichier(const std::string& nom) {
     return Glib::file_test(nom, Glib::FILE_TEST_IS_REGULAR);
 }
@@ -99,22 +94,22 @@ void LaisseEcrireRecents() {
 
 void DessinWindow::New() {
     if (!PeutRemplacer(true)) return;
-    const bool abandon = TravailEnSuspens();
-    if (!Abandonne()) return;
+    const auto garde = Abandonne(true);
+    if (!garde) return;
     Zone.Nouveau();
     MetTitre();
-    DitLecture(abandon);
+    DitLecture(*garde);
 }
 
 void DessinWindow::Open() {
     if (!PeutRemplacer(true)) return;
     const std::string nom = ChoisitLecture(*this, Lecture, BddCourante.NomFichier);
     if (nom.empty()) return;
-    const bool abandon = TravailEnSuspens();
-    if (!Abandonne()) return;
+    const auto garde = Abandonne(true);
+    if (!garde) return;
     Zone.OuvreZone(nom);
     MetTitre();
-    DitLecture(abandon);
+    DitLecture(*garde);
 }
 
 void DessinWindow::RecentFiles() {
@@ -127,11 +122,11 @@ void DessinWindow::RecentFiles() {
         Messages.Dit("Ce dessin n'est plus là.");
         return;
     }
-    const bool abandon = TravailEnSuspens();
-    if (!Abandonne()) return;
+    const auto garde = Abandonne(false);
+    if (!garde) return;
     Zone.OuvreZone(nom);
     MetTitre();
-    DitLecture(abandon);
+    DitLecture(*garde);
 }
 
 void DessinWindow::Save() {
@@ -139,10 +134,7 @@ void DessinWindow::Save() {
         MetTitre();
     } else if (BddCourante.Nomme) {
         const bool autre = BddCourante.Original.empty() && BddCourante.GarderaOriginal();
-        if (ApresEcriture(BddCourante.Enregistre()) && autre)
-            Messages.Dit(EntreGuillemets(BddCourante.NomFichier) +
-                         " avait été changé par un autre programme : ce qu'il contenait est gardé "
-                         "à côté de lui.");
+        ApresEcriture(BddCourante.Enregistre(), autre);
     } else {
         SaveAs();
         MetTitre();
@@ -162,10 +154,10 @@ void DessinWindow::Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&,
     if (!PeutRemplacer(demande)) return;
     const std::string nom = ChoisitLecture(*this, genre, BddCourante.NomFichier);
     if (nom.empty()) return;
-    const bool abandon = TravailEnSuspens();
-    if (!Abandonne()) return;
+    const auto garde = Abandonne(demande);
+    if (!garde) return;
     Zone.Importe(importeur, nom);
-    DitLecture(abandon);
+    DitLecture(*garde);
 }
 
 void DessinWindow::Dxf() {

@@ -56,12 +56,13 @@ void DessinWindow::CollerRotation() {
 }
 
 void DessinWindow::CollerK() {
-    double facteur = BddCourante.Transforme.Agrandissement;
+    double& agrandissement = BddCourante.Transforme.Agrandissement;
+    double facteur = agrandissement;
     // The title is that of the rotation, by which users know this dialog too.
-    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur,
-                        Entre(0.001, 1000.0, "Le coefficient"));
+    ReelDialog dialogue("Entrer l'angle de la rotation (en degrés)", &facteur);
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
-    BddCourante.Transforme.Agrandissement = facteur;
+    // Beyond these the former factor is pasted with: this is meant.
+    if (facteur > 0.001 && facteur < 1000.0) agrandissement = facteur;
     Zone.Presse.Colle();
 }
 
@@ -81,7 +82,7 @@ void DessinWindow::SurfacePref() {
     EltProfilSurface& surface = Zone.Outils.Protos.ProfilSurface;
     int lignes = surface.nbX, colonnes = surface.nbY;
     Int2Dialog dialogue("Nombre de lignes / Nombre de Colonnes", &lignes, &colonnes,
-                        AuMoins(3.0, "Chaque nombre"));
+                        EntierAuMoins(3, "Chaque nombre"));
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     surface.SetNbX(lignes);
     surface.SetNbY(colonnes);

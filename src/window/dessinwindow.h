@@ -11,6 +11,7 @@
 #include <gtkmm/uimanager.h>
 #include <gtkmm/window.h>
 
+#include <optional>
 #include <string>
 
 #include "model/recuperation.h"
@@ -138,20 +139,23 @@ class DessinWindow : public Gtk::Window {
     void DitSansSecours();
 
     /// After a drawing was written, or not, errno saying why: shows and says it. Answers ecrit.
-    bool ApresEcriture(bool ecrit);
+    /// autre tells that another program had changed the file.
+    bool ApresEcriture(bool ecrit, bool autre = false);
+    void DitOriginalGarde(bool autre);
 
     /// Whether the drawing may be replaced; where demande is true the user is asked about what is
     /// not saved.
     bool PeutRemplacer(bool demande);
 
-    /// The drawing is about to be replaced: keeps a copy of what is not saved. False when it is not
-    /// to be replaced after all.
-    bool Abandonne();
+    /// The drawing is about to be replaced: keeps a copy of what is not saved. demande tells that
+    /// the user was asked about it. Whether there is a copy; nothing when the drawing is not to be
+    /// replaced after all.
+    std::optional<bool> Abandonne(bool demande);
     void Importe(const GenreFichier& genre, void (*importeur)(BDDGeo&, std::string), bool demande);
 
-    /// Says what the reading of a file has left out; with abandon also that the drawing before it
-    /// was not saved.
-    void DitLecture(bool abandon = false);
+    /// Says what the reading of a file has left out; with garde also that the drawing before it
+    /// was not saved, of which there is a copy.
+    void DitLecture(bool garde = false);
     void Reprend(const CopieSecours& copie);
 
     Window3D Fenetre3D;

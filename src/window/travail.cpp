@@ -2,6 +2,7 @@
 // happens before a drawing is replaced.
 
 #include <glib-unix.h>
+#include <glibmm/convert.h>
 #include <glibmm/main.h>
 #include <glibmm/miscutils.h>
 #include <gtkmm/main.h>
@@ -90,12 +91,13 @@ void DessinWindow::DitSansSecours() {
                  " Enregistrez souvent votre travail.");
 }
 
-bool DessinWindow::ApresEcriture(bool ecrit) {
+bool DessinWindow::ApresEcriture(bool ecrit, bool autre) {
     const int erreur = errno;
     MetTitre();
     if (ecrit) {
         Secours.Oublie();
         NomPropose.clear();
+        DitOriginalGarde(autre);
         return true;
     }
     NomPropose = Glib::path_get_basename(BddCourante.NomFichier);
@@ -109,21 +111,31 @@ bool DessinWindow::ApresEcriture(bool ecrit) {
     return false;
 }
 
+void DessinWindow::DitOriginalGarde(bool autre) {
+    if (BddCourante.OriginalGarde.empty()) return;
+    const Glib::ustring nom = EntreGuillemets(BddCourante.NomFichier);
+    Messages.Dit((autre ? nom + " avait été changé par un autre programme : ce qu'il contenait"
+                        : "Ce que " + nom + " contenait") +
+                 " est gardé sous " + Glib::filename_display_basename(BddCourante.OriginalGarde) +
+                 ".");
+}
+
 bool DessinWindow::PeutRemplacer(bool demande) {
     if (!BddCourante.AEnregistrer()) return true;
     return !demande || DemandeEnregistrement();
 }
 
-bool DessinWindow::Abandonne() {
-    const bool perdu = BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
-    if (perdu && !Secours.Garde("Remplacé sans être enregistré")) {
+std::optional<bool> DessinWindow::Abandonne(bool demande) {
+    const bool enSuspens = BddCourante.AEnregistrer() && BddCourante.Elements.Nombre() > 0;
+    const bool garde = enSuspens && Secours.Garde("Remplacé sans être enregistré");
+    if (enSuspens && !garde) {
         DitSansSecours();
         // Without a net nothing is let go unasked.
-        if (!DemandeEnregistrement()) return false;
+        if (!demande && !DemandeEnregistrement()) return std::nullopt;
     }
     Secours.Oublie();
     NomPropose.clear();
-    return true;
+    return garde;
 }
 
 void DessinWindow::RecupereDessin() {
@@ -153,10 +165,10 @@ void DessinWindow::Reprend(const CopieSecours& copie) {
         Messages.Dit("Cette copie ne peut plus être lue.");
         return;
     }
-    if (!PeutRemplacer(true) || !Abandonne()) return;
+    if (!PeutRemplacer(true) || !Abandonne(true)) return;
     BddCourante.Recupere(texte, copie.Nom);
     if (!copie.Nom.empty()) NomPropose = Glib::path_get_basename(copie.Nom);
     Zone.Outils.Recommence();
     MetTitre();
-    Secours.Ecrit("Travail en cours");
+    Secours.Ecrit("Travail non enregistré");
 }

@@ -1,5 +1,8 @@
 #include "commun/record.h"
 
+#include <glib/gstdio.h>
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <sstream>
 
@@ -31,4 +34,22 @@ std::string Contenu(const std::string& chemin) {
     std::ostringstream texte;
     texte << std::ifstream(chemin, std::ios::binary).rdbuf();
     return texte.str();
+}
+
+void ExigeFichier(const std::string& nom, const std::string& vu) {
+    const std::string attendu = Contenu(std::string(KRVEK_ESSAIS "/") + nom);
+    if (vu == attendu) return;
+    std::istringstream vues(vu), attendues(attendu);
+    std::string ligne, autre;
+    int rang = 0;
+    do {
+        ++rang;
+        if (!std::getline(vues, ligne)) ligne = "(end)";
+        if (!std::getline(attendues, autre)) autre = "(end)";
+    } while (ligne == autre && ligne != "(end)");
+    g_mkdir_with_parents(KRVEK_IMAGES, 0777);
+    const std::string copie = std::string(KRVEK_IMAGES "/") + nom.substr(nom.rfind('/') + 1);
+    std::ofstream(copie, std::ios::binary) << vu;
+    ADD_FAILURE() << nom << ", line " << rang << ":\n  seen     " << ligne << "\n  expected "
+                  << autre << "\nall that was seen: " << copie;
 }

@@ -16,3 +16,7 @@ std::string Resume(const BilanLecture& bilan);
 
 /// The bytes of a file.
 std::string Contenu(const std::string& chemin);
+
+/// Fails where vu is not what the file of that name under the folder of the tests holds, and names
+/// the first line that differs; what was seen then lies among the pictures of the build.
+void ExigeFichier(const std::string& nom, const std::string& vu);

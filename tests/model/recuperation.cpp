@@ -201,6 +201,10 @@ TEST(Travail, UnEchecLaisseLeTravailAEnregistrer) {
     ASSERT_TRUE(bdd.Enregistre());
     EXPECT_EQ(Contenu(nom + "~"), "VERSION2.3\nold");
     EXPECT_EQ(Contenu(nom + "~1~"), "VERSION3.3\n1\n10000\n-1\n");
+    // A file that was put back as it was holds nothing else.
+    ASSERT_TRUE(EcritFichier(nom, Contenu(nom)));
+    ASSERT_TRUE(bdd.Enregistre());
+    EXPECT_FALSE(fs::exists(nom + "~2~"));
     fs::remove_all(dossier);
 }
 

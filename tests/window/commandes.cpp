@@ -313,11 +313,10 @@ TEST(Reglages, CalquesGrilleEtTrait) {
         {"GrillePas", "1e400", "Ce nombre est trop grand."},
         {"GrillePas", "-3", "Le pas doit dépasser 0."},
         {"GrillePas", "abc", "Le pas doit dépasser 0."},
-        {"CollerK", "1000", "Le coefficient doit dépasser 0.001 et rester sous 1000."},
         {"CalqueCourant", "abc", "Il faut le numéro d'un calque."},
         {"CalquesAfficher", "", "Il faut le numéro d'un calque."},
         {"Jonc", "0", "Le rayon doit dépasser 0."},
-        {"Image", "", "Il faut le nom d'une BDD."},
+        {"SurfacePref", "2,4", "Chaque nombre doit valoir 3 au moins."},
     };
     for (const Mauvaise& mauvaise : mauvaises) {
         std::string phrase;

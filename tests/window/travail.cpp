@@ -146,6 +146,7 @@ TEST(Travail, UnFichierEtrangerGardeUneCopie) {
     bureau.Choisit("Save");
     EXPECT_EQ(Nombre(photo), 1);
     EXPECT_EQ(Contenu(photo + "~"), octets);
+    EXPECT_EQ(bureau.Dit(), "Ce que « photo.png » contenait est gardé sous photo.png~.");
 
     std::string texte = Contenu(KRVEK_ESSAIS "/model/data/feuille.vek");
     texte.resize(texte.size() / 2);
@@ -153,8 +154,9 @@ TEST(Travail, UnFichierEtrangerGardeUneCopie) {
     bureau.Fenetre.OuvreFichier(coupe);
     EXPECT_EQ(bureau.Dit().find("« c.vek » n'a pu être lu qu'en partie : "), 0u) << bureau.Dit();
     bureau.Segment(0);
-    bureau.Choisit("Save");
-    EXPECT_EQ(Contenu(coupe + "~"), texte);
+    ASSERT_TRUE(BddCourante.EnregistreSous(bureau.Dossier + "/ailleurs.vek"));
+    ASSERT_TRUE(BddCourante.EnregistreSous(coupe));
+    EXPECT_EQ(Contenu(coupe + "~"), texte) << "the first save over it, though not the first one";
 
     bureau.Fenetre.OuvreFichier(bureau.Dossier);
     EXPECT_NE(bureau.Dit().find("est un dossier."), std::string::npos);

@@ -51,7 +51,7 @@ bool Colle(Machine& outils, const PointVek& p) {
 bool ColleCommeBDD(Machine& outils, const PointVek& p) {
     if (!outils.Collage) return false;
     Glib::ustring nom;
-    StringDialog dialogue("Identificateur ?", &nom, UnNomDeBDD());
+    StringDialog dialogue("Identificateur ?", &nom);
     if (dialogue.run() == Gtk::RESPONSE_OK) BddCourante.CollerCommeBDD(*outils.Collage, p, nom);
     outils.DessinChange();
     return true;

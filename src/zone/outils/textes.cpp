@@ -35,7 +35,7 @@ template <auto Proto>
 bool DemandeImage(Machine& outils) {
     EltImage& image = outils.Protos.*Proto;
     Glib::ustring nom = image.Identificateur;
-    StringDialog dialogue("Identificateur de la BDD ?", &nom, UnNomDeBDD());
+    StringDialog dialogue("Identificateur de la BDD ?", &nom);
     if (dialogue.run() != Gtk::RESPONSE_OK) return false;
     image.SetIdentificateur(nom);
     return true;
