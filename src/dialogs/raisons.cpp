@@ -24,6 +24,9 @@ Glib::ustring Raison(int erreur) {
             return "le disque est en lecture seule";
         case ENAMETOOLONG:
             return "le nom est trop long";
+        case EINVAL:
+        case ENXIO:
+            return "ce n'est pas un fichier ordinaire";
         case EIO:
             return "le disque ne répond pas";
         default:

@@ -277,6 +277,14 @@ EltGeo* BDDGeo::ChercheAutre(const PointVek& p, bool support) {
     return SiProche(trouve, distance);
 }
 
+std::vector<const EltGeo*> BDDGeo::VisiblesPres(const PointVek& p) const {
+    std::vector<const EltGeo*> pres;
+    Table.Parcourt(Elements, Boite::Autour(p, p).Elargie(vue::Proche10()), [&](const EltGeo& elt) {
+        if (EstVisible(elt)) pres.push_back(&elt);
+    });
+    return pres;
+}
+
 EltGeo* BDDGeo::Cherche3D(const PointVek& p) const {
     double distance = vue::Proche3D;
     EltGeo* trouve = nullptr;
@@ -349,6 +357,9 @@ namespace {
 /// How a drawing of the present format begins.
 const std::string VersionPresente = "VERSION3.3";
 
+/// The state of a file that is not there.
+const std::string SansFichier = "absent";
+
 }  // namespace
 
 void BDDGeo::Ouvre(std::string nom) {
@@ -367,6 +378,7 @@ void BDDGeo::Ouvre(std::string nom) {
 
 void BDDGeo::NoteFichier(std::string_view contenu) {
     EtatFichier = EtatDuFichier(NomFichier);
+    if (EtatFichier.empty()) EtatFichier = SansFichier;
     EmpreinteFichier = std::hash<std::string_view>()(contenu);
 }
 
@@ -375,7 +387,7 @@ void BDDGeo::Recupere(std::string_view texte, std::string nom) {
     NomFichier = std::move(nom);
     // What is there now was not read.
     Original = NomFichier;
-    LitTexte(texte);
+    Lecture = LitTexte(texte);
     Modifie = true;
     NoteChangement();
 }
@@ -400,8 +412,9 @@ bool MemeFichier(const std::string& a, const std::string& b) {
 
 bool BDDGeo::GarderaOriginal() const {
     if (!Nomme) return false;
-    if (!Original.empty() && MemeFichier(Original, NomFichier)) return true;
     const std::string etat = EtatDuFichier(NomFichier);
+    if (etat == EtatGarde && !etat.empty()) return false;
+    if (!Original.empty() && MemeFichier(Original, NomFichier)) return true;
     if (EtatFichier.empty() || etat.empty() || etat == EtatFichier) return false;
     // It may have been touched alone, or put back as it was.
     std::string contenu;
@@ -419,10 +432,14 @@ bool BDDGeo::Enregistre() {
     Ecrivain sortie;
     Sauve(sortie);
     OriginalGarde.clear();
-    if (GarderaOriginal() && (OriginalGarde = GardeACote(NomFichier)).empty()) return false;
+    if (GarderaOriginal()) {
+        OriginalGarde = GardeACote(NomFichier);
+        if (OriginalGarde.empty()) return false;
+        EtatGarde = EtatDuFichier(NomFichier);
+    }
     if (!EcritFichier(NomFichier, sortie.Texte())) return false;
     // What was read in part may be saved elsewhere first.
-    if (!OriginalGarde.empty()) Original.clear();
+    if (MemeFichier(Original, NomFichier)) Original.clear();
     NoteFichier(sortie.Texte());
     NbEcrits = NbChangements;
     return true;

@@ -71,6 +71,10 @@ class BDDGeo : public BDDGeoBase {
     /// The same among all but the one that `ChercheProche` remembered.
     EltGeo* ChercheAutre(const PointVek& p, bool support);
 
+    /// The visible elements of which something may lie within the pick distance of p, from the head
+    /// on.
+    std::vector<const EltGeo*> VisiblesPres(const PointVek& p) const;
+
     /// The visible element nearest in space to p, when it is nearer than 10 drawing units whatever
     /// the view; else null.
     EltGeo* Cherche3D(const PointVek& p) const;
@@ -195,6 +199,7 @@ class BDDGeo : public BDDGeoBase {
     sigc::signal<void, EltGeo*> Retrait;
     unsigned long NbChangements = 0;
     std::string EtatFichier;           ///< Of the drawing's file when it was last read or written.
+    std::string EtatGarde;             ///< Of the file when a copy of it was last kept.
     std::size_t EmpreinteFichier = 0;  ///< Of its content then.
     unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
     sigc::signal<void> SignauxChangement;

@@ -54,9 +54,39 @@ bool EcritEtFerme(Descripteur& fichier, std::string_view contenu) {
     return vide && fichier.Ferme();
 }
 
+/// Makes the file hold the content and nothing else.
+bool Remplit(int numero, std::string_view contenu) {
+    return lseek(numero, 0, SEEK_SET) == 0 && EcritTout(numero, contenu) &&
+           ftruncate(numero, static_cast<off_t>(contenu.size())) == 0;
+}
+
+/// Asks for the room that the content needs, before any of the former one is touched.
+bool Reserve(int numero, std::size_t taille) {
+    const int erreur = taille ? posix_fallocate(numero, 0, static_cast<off_t>(taille)) : 0;
+    if (erreur == 0 || erreur == EINVAL || erreur == EOPNOTSUPP) return true;
+    errno = erreur;
+    return false;
+}
+
+/// A regular file that cannot take the content keeps its former one.
 bool EcritSurPlace(const std::string& chemin, std::string_view contenu) {
-    Descripteur fichier(open(chemin.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    return fichier.Ouvert() && EcritTout(*fichier, contenu) && fichier.Ferme();
+    // Without blocking, or a pipe that nobody reads would never open.
+    Descripteur fichier(open(chemin.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666));
+    struct stat etat = {};
+    if (!fichier.Ouvert() || fstat(*fichier, &etat) != 0) return false;
+    if (!S_ISREG(etat.st_mode)) {
+        // A device or a pipe would swallow the work.
+        errno = EINVAL;
+        return false;
+    }
+    std::string ancien;
+    const bool connu = LitFichier(chemin, ancien);
+    if (Reserve(*fichier, contenu.size()) && Remplit(*fichier, contenu) && fichier.Ferme())
+        return true;
+    const int erreur = errno;
+    [[maybe_unused]] const bool rendu = fichier.Ouvert() && connu && Remplit(*fichier, ancien);
+    errno = erreur;
+    return false;
 }
 
 /// What renaming over the file would lose: it is no plain file, or other names lead to it, or it
@@ -180,14 +210,33 @@ std::string EtatDuFichier(const std::string& chemin) {
            std::to_string(etat.st_mtim.tv_sec) + ' ' + std::to_string(etat.st_mtim.tv_nsec);
 }
 
+namespace {
+
+constexpr int NomsMax = 10000;
+
+/// The names that a file may be kept under, one after the other.
+std::string NomGarde(const std::string& fichier, int essai) {
+    return fichier + (essai ? "~" + std::to_string(essai) + "~" : "~");
+}
+
+}  // namespace
+
+std::string NomACote(const std::string& chemin) {
+    const std::string fichier = SansLien(chemin);
+    struct stat etat = {};
+    int essai = 0;
+    while (essai < NomsMax && lstat(NomGarde(fichier, essai).c_str(), &etat) == 0)
+        ++essai;
+    return NomGarde(fichier, essai);
+}
+
 std::string GardeACote(const std::string& chemin) {
     const std::string fichier = SansLien(chemin);
     std::string contenu;
     struct stat etat = {};
     if (stat(fichier.c_str(), &etat) != 0 || !LitFichier(fichier, contenu)) return {};
-    constexpr int essaisMax = 10000;
-    for (int essai = 0; essai < essaisMax; ++essai) {
-        const std::string nom = fichier + (essai ? "~" + std::to_string(essai) + "~" : "~");
+    for (int essai = 0; essai < NomsMax; ++essai) {
+        const std::string nom = NomGarde(fichier, essai);
         Descripteur copie(open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
         if (!copie.Ouvert() && errno == EEXIST) continue;
         if (!copie.Ouvert()) return {};

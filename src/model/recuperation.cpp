@@ -2,12 +2,14 @@
 
 #include <fcntl.h>
 #include <glib.h>
+#include <glibmm/miscutils.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -44,7 +46,18 @@ bool Entoure(const std::string& nom, const std::string& debut, const std::string
            nom.compare(nom.size() - fin.size(), fin.size(), fin) == 0;
 }
 
-/// The plain files of the folder whose names begin and end so.
+/// Whether what stands between the two is what this program puts there: two numbers.
+bool EstNotre(const std::string& nom, const std::string& debut, const std::string& fin) {
+    if (!Entoure(nom, debut, fin)) return false;
+    constexpr std::size_t chiffresMax = 18;  // More would not fit into a number.
+    const std::string mot = nom.substr(debut.size(), nom.size() - debut.size() - fin.size());
+    const std::size_t tiret = mot.find('-');
+    return tiret != 0 && tiret <= chiffresMax && tiret + 1 < mot.size() &&
+           mot.find_first_not_of("0123456789", tiret + 1) == std::string::npos &&
+           mot.find_first_not_of("0123456789") == tiret;
+}
+
+/// The plain files of the folder, of this program's making, whose names begin and end so.
 std::vector<fs::path> Fichiers(const std::string& dossier, const std::string& debut,
                                const std::string& fin) {
     std::vector<fs::path> trouves;
@@ -52,7 +65,7 @@ std::vector<fs::path> Fichiers(const std::string& dossier, const std::string& de
     for (fs::directory_iterator entree(dossier, erreur), bout; !erreur && entree != bout;
          entree.increment(erreur)) {
         std::error_code genre;
-        if (Entoure(entree->path().filename().string(), debut, fin) &&
+        if (EstNotre(entree->path().filename().string(), debut, fin) &&
             entree->symlink_status(genre).type() == fs::file_type::regular)
             trouves.push_back(entree->path());
     }
@@ -107,7 +120,10 @@ CopieSecours Decrit(const fs::path& chemin) {
     CopieSecours copie;
     copie.Fichier = chemin.string();
     struct stat etat = {};
-    if (stat(chemin.c_str(), &etat) == 0) copie.Date = etat.st_mtime;
+    if (stat(chemin.c_str(), &etat) == 0) {
+        copie.Date = etat.st_mtime;
+        copie.Taille = static_cast<std::uintmax_t>(etat.st_size);
+    }
     const std::string queue = Queue(chemin);
     const std::size_t marque = queue.rfind(Marque);
     if (marque == std::string::npos) return copie;
@@ -129,7 +145,7 @@ struct Recuperation::Verrou {
     Verrou(std::string chemin, std::string copie)
         : Chemin(std::move(chemin)),
           Copie(std::move(copie)),
-          Numero(open(Chemin.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600)) {
+          Numero(open(Chemin.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600)) {
         if (Numero >= 0 && flock(Numero, LOCK_EX | LOCK_NB) != 0) {
             close(Numero);
             Numero = -1;
@@ -142,6 +158,13 @@ struct Recuperation::Verrou {
     }
 
     bool Pris() const { return Numero >= 0; }
+
+    /// Whether the file that is locked still stands there: the folder may have been emptied.
+    bool Tient() const {
+        struct stat mien = {}, la = {};
+        return fstat(Numero, &mien) == 0 && stat(Chemin.c_str(), &la) == 0 &&
+               mien.st_ino == la.st_ino && mien.st_dev == la.st_dev;
+    }
 
     /// The copy is gone: so is its lock.
     void Leve() const { unlink(Chemin.c_str()); }
@@ -163,7 +186,8 @@ bool Recuperation::PrepareDossier() {
 }
 
 bool Recuperation::PrendVerrou() {
-    if (!EnCours.empty()) return true;
+    if (Mien && Mien->Tient()) return true;
+    DejaEcrit = false;
     const std::string base = (fs::path(Dossier) / DebutEnCours).string() +
                              std::to_string(getpid()) + "-" + std::to_string(g_random_int());
     auto verrou = std::make_unique<Verrou>(base + SuffixeVerrou, base + Suffixe);
@@ -177,7 +201,7 @@ bool Recuperation::EcritVers(const std::string& chemin, const char* raison) {
     CopieSecours copie;
     copie.Nom = Bdd.NomFichier;
     if (!copie.Nom.empty() && !g_path_is_absolute(copie.Nom.c_str()))
-        copie.Nom = (fs::current_path() / copie.Nom).string();
+        copie.Nom = Glib::build_filename(Glib::get_current_dir(), copie.Nom);
     copie.Raison = raison;
     copie.Date = std::time(nullptr);
     copie.Elements = Bdd.Elements.Nombre();
@@ -190,15 +214,19 @@ bool Recuperation::EcritVers(const std::string& chemin, const char* raison) {
     return ecrit;
 }
 
+bool Recuperation::AJour() const {
+    return !Bdd.AEnregistrer() || (DejaEcrit && DerniersChangements == Bdd.Changements());
+}
+
 bool Recuperation::Passe() {
-    if (!Bdd.AEnregistrer() || (DejaEcrit && DerniersChangements == Bdd.Changements())) return true;
+    if (AJour()) return true;
     const double attente = std::max(Intervalle, PartDuTemps * DerniereDuree);
     if (DerniereFin > 0.0 && Instant() - DerniereFin < attente) return true;
     return Ecrit("Travail non enregistré");
 }
 
 bool Recuperation::Ecrit(const char* raison) {
-    if (!Bdd.AEnregistrer() || (DejaEcrit && DerniersChangements == Bdd.Changements())) return true;
+    if (AJour()) return true;
     const double debut = Instant();
     const bool ecrit = PrepareDossier() && PrendVerrou() && EcritVers(EnCours, raison);
     DerniereFin = Instant();
@@ -211,7 +239,11 @@ bool Recuperation::Ecrit(const char* raison) {
 bool Recuperation::Garde(const char* raison) {
     if (!Bdd.AEnregistrer() || Bdd.Elements.Nombre() == 0) return true;
     if (ChangementsGardes == Bdd.Changements()) return true;
-    if (!PrepareDossier() || !EcritVers(NomNeuf(), raison)) return false;
+    if (!PrepareDossier() || !EcritVers(NomNeuf(), raison)) {
+        // The running copy is not as new, and better than none.
+        if (DejaEcrit && std::rename(EnCours.c_str(), NomNeuf().c_str()) == 0) DejaEcrit = false;
+        return false;
+    }
     ChangementsGardes = Bdd.Changements();
     Elague();
     return true;
@@ -220,6 +252,17 @@ bool Recuperation::Garde(const char* raison) {
 void Recuperation::Oublie() {
     if (DejaEcrit) unlink(EnCours.c_str());
     DejaEcrit = false;
+    Source.clear();
+}
+
+void Recuperation::Reprend(const CopieSecours& copie) {
+    Source = copie.Fichier;
+    ChangementsGardes = Bdd.Changements();
+}
+
+void Recuperation::Enregistre() {
+    if (!Source.empty()) unlink(Source.c_str());
+    Oublie();
 }
 
 std::string Recuperation::NomNeuf() const {
@@ -239,34 +282,58 @@ void Recuperation::Elague() const {
     std::uintmax_t taille = 0;
     std::error_code erreur;
     for (std::size_t rang = 0; rang < copies.size(); ++rang) {
-        const std::uintmax_t sienne = fs::file_size(copies[rang], erreur);
-        if (!erreur) taille += sienne;
-        // The newest stays, however large.
-        if (rang > 0 && (rang >= NombreMax || taille > TailleMax)) fs::remove(copies[rang], erreur);
+        std::uintmax_t sienne = fs::file_size(copies[rang], erreur);
+        if (erreur) sienne = 0;
+        // The newest stays, however large; one that is too large does not drive out the others.
+        if (rang > 0 && (rang >= NombreMax || taille + sienne > TailleMax))
+            fs::remove(copies[rang], erreur);
+        else if (sienne <= TailleMax)
+            taille += sienne;
+    }
+}
+
+void Recuperation::OteVieuxVerrous() const {
+    constexpr auto vieux = std::chrono::minutes(1);  // A newer one is perhaps being made.
+    for (const fs::path& verrou : Fichiers(Dossier, DebutEnCours, SuffixeVerrou)) {
+        fs::path copie = verrou;
+        std::error_code erreur;
+        const auto date = fs::last_write_time(verrou, erreur);
+        if (erreur || fs::exists(copie.replace_extension(Suffixe), erreur)) continue;
+        if (fs::file_time_type::clock::now() - date < vieux) continue;
+        const Verrou libre(verrou.string(), copie.string());
+        if (libre.Pris()) libre.Leve();
     }
 }
 
 std::vector<CopieSecours> Recuperation::Orphelines() {
+    OteVieuxVerrous();
     std::vector<CopieSecours> orphelines;
-    for (const fs::path& copie : Fichiers(Dossier, DebutEnCours, Suffixe)) {
-        if (copie == EnCours) continue;
-        fs::path cle = copie;
-        auto verrou =
-            std::make_unique<Verrou>(cle.replace_extension(SuffixeVerrou).string(), copie.string());
-        if (!verrou->Pris()) continue;
-        orphelines.push_back(Decrit(copie));
-        Adoptees.push_back(std::move(verrou));
-    }
+    for (const fs::path& copie : Fichiers(Dossier, DebutEnCours, Suffixe))
+        if (copie != EnCours) orphelines.push_back(Decrit(copie));
     std::sort(orphelines.begin(), orphelines.end(),
               [](const CopieSecours& a, const CopieSecours& b) { return a.Date > b.Date; });
-    return orphelines;
+    constexpr std::size_t adopteesMax = 2 * NombreMax;  // Each holds a file open.
+    std::vector<CopieSecours> prises;
+    for (CopieSecours& orpheline : orphelines) {
+        if (prises.size() == adopteesMax) break;
+        fs::path cle = orpheline.Fichier;
+        auto verrou = std::make_unique<Verrou>(cle.replace_extension(SuffixeVerrou).string(),
+                                               orpheline.Fichier);
+        if (!verrou->Pris()) continue;
+        Adoptees.push_back(std::move(verrou));
+        prises.push_back(std::move(orpheline));
+    }
+    return prises;
 }
 
 void Recuperation::RangeOrphelines() {
-    for (const auto& verrou : Adoptees) {
+    // The newest comes first among them, and gets the highest number.
+    for (auto verrou = Adoptees.rbegin(); verrou != Adoptees.rend(); ++verrou) {
+        const std::string nom = NomNeuf();
         // It may have been thrown away.
-        std::rename(verrou->Copie.c_str(), NomNeuf().c_str());
-        verrou->Leve();
+        std::rename((*verrou)->Copie.c_str(), nom.c_str());
+        if (Source == (*verrou)->Copie) Source = nom;
+        (*verrou)->Leve();
     }
     Adoptees.clear();
     Elague();
@@ -282,9 +349,17 @@ std::vector<CopieSecours> Recuperation::Gardees() const {
     return copies;
 }
 
+bool Recuperation::EnGardeDAutres() const {
+    const std::vector<fs::path> copies = Fichiers(Dossier, DebutGardee, Suffixe);
+    return std::any_of(copies.begin(), copies.end(),
+                       [this](const fs::path& copie) { return copie != Source; });
+}
+
 std::string Recuperation::Texte(const CopieSecours& copie) {
     std::string texte;
     LitFichier(copie.Fichier, texte);
+    const std::size_t marque = texte.rfind(Marque);
+    if (marque != std::string::npos) texte.resize(marque);
     return texte;
 }
 

@@ -14,7 +14,8 @@ struct CopieSecours {
     std::string Nom;      ///< The file that the drawing was to go to; empty for none.
     std::string Raison;   ///< Why it was kept, in French.
     std::time_t Date = 0;
-    int Elements = -1;  ///< How many it holds; -1 when the copy does not say.
+    int Elements = -1;          ///< How many it holds; -1 when the copy does not say.
+    std::uintmax_t Taille = 0;  ///< Of the copy, in bytes.
 };
 
 /// The net under the work: copies of what is not saved, in a folder of the user's that nobody else
@@ -44,14 +45,26 @@ class Recuperation {
     /// Writes it now where there is something new. False when it could not be written.
     bool Ecrit(const char* raison);
 
+    /// Whether the running copy says all that is not saved.
+    bool AJour() const;
+
     /// The drawing is about to be replaced or given up: what is not saved of it stays as a copy
-    /// beside the running ones, once for each state of it. False when it should and could not.
+    /// beside the running ones, once for each state of it. False when it should and could not; then
+    /// the running copy stays as one of them.
     bool Garde(const char* raison);
 
     /// The drawing is on disk, or was given up knowingly: takes the running copy away.
     void Oublie();
 
-    /// The running copies that earlier runs have left behind, the newest first. They are this
+    /// The drawing has been taken back from that copy, which says all of it until it changes.
+    void Reprend(const CopieSecours& copie);
+
+    /// The drawing has been saved: neither the running copy nor the one that it was taken back from
+    /// is of use any more.
+    void Enregistre();
+
+    /// The running copies that earlier runs have left behind, the newest first, and of very many
+    /// the newest alone. They are this
     /// program's then, and no other one's, until `RangeOrphelines`.
     std::vector<CopieSecours> Orphelines();
 
@@ -61,7 +74,10 @@ class Recuperation {
     /// All kept copies, the newest first.
     std::vector<CopieSecours> Gardees() const;
 
-    /// The text of a copy; empty when it cannot be read.
+    /// Whether there are others than the one that the drawing was taken back from.
+    bool EnGardeDAutres() const;
+
+    /// The text of the drawing in a copy; empty when it cannot be read.
     static std::string Texte(const CopieSecours& copie);
 
     /// Takes a copy away for good.
@@ -78,6 +94,9 @@ class Recuperation {
     bool EcritVers(const std::string& chemin, const char* raison);
     std::string NomNeuf() const;
 
+    /// Takes away the locks whose programs and copies are gone.
+    void OteVieuxVerrous() const;
+
     /// Keeps the newest copies only.
     void Elague() const;
 
@@ -89,6 +108,7 @@ class Recuperation {
     unsigned long DerniersChangements = 0;          ///< The drawing's count at the last copy.
     bool DejaEcrit = false;
     unsigned long ChangementsGardes = 0;  ///< The drawing's count at the last kept copy; 0: none.
+    std::string Source;                   ///< The copy that the drawing was taken back from.
     double DerniereFin = 0.0;             ///< Seconds on a clock that never goes back.
     double DerniereDuree = 0.0;           ///< What the last copy took, in seconds.
 };

@@ -8,6 +8,7 @@
 
 #include "dialogs/raisons.h"
 #include "model/bddgeo.h"
+#include "model/fichier.h"
 #include "window/dessinwindow.h"
 
 namespace {
@@ -65,14 +66,19 @@ Glib::ustring Constat(const BilanLecture& bilan, const Glib::ustring& nom) {
 
 void DessinWindow::DitLecture(bool garde) {
     const std::string& fichier = BddCourante.NomFichier;
-    Glib::ustring texte = Constat(BddCourante.Lecture, EntreGuillemets(fichier));
+    Glib::ustring texte =
+        Constat(BddCourante.Lecture, fichier.empty() ? "Ce dessin" : EntreGuillemets(fichier));
     if (!texte.empty() && BddCourante.GarderaOriginal())
         texte += " Le premier enregistrement gardera l'original sous " +
-                 Glib::filename_display_basename(fichier) + "~.";
+                 Glib::filename_display_basename(NomACote(fichier)) + ".";
     std::vector<Bandeau::Issue> issues;
     if (garde) {
         texte = "Le dessin d'avant n'était pas enregistré : une copie est gardée. " + texte;
         issues = {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}};
     }
-    if (!texte.empty()) Messages.Dit(texte, issues);
+    // What was said of the drawing before is over.
+    if (texte.empty())
+        Messages.Cache();
+    else
+        Messages.Dit(texte, issues);
 }

@@ -122,6 +122,7 @@ void DessinWindow::RecentFiles() {
         Messages.Dit("Ce dessin n'est plus là.");
         return;
     }
+    if (!PeutRemplacer(false)) return;
     const auto garde = Abandonne(false);
     if (!garde) return;
     Zone.OuvreZone(nom);
@@ -192,6 +193,8 @@ bool DessinWindow::DemandeEnregistrement() {
 }
 
 bool DessinWindow::ConfirmeFermeture() {
+    // A chain in hand is drawn, too.
+    Zone.Outils.Finit();
     if (!BddCourante.AEnregistrer()) return true;
     std::string nom = BddCourante.NomFichier;
     const int reponse = BddCourante.Nomme ? QuestionEnregistrer(*this).run()

@@ -26,7 +26,9 @@ void DitException() {
 std::string NomDeFichier(const std::string& mot) {
     if (mot.compare(0, 7, "file://") != 0) return mot;
     try {
-        return Glib::filename_from_uri(mot);
+        Glib::ustring machine;
+        const std::string nom = Glib::filename_from_uri(mot, machine);
+        return machine.empty() || machine == "localhost" ? nom : mot;
     } catch (const Glib::ConvertError&) {
         return mot;
     }

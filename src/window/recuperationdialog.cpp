@@ -68,9 +68,9 @@ RecuperationDialog::RecuperationDialog(Gtk::Window& parente, std::vector<CopieSe
     get_vbox()->pack_start(*consigne, Gtk::PACK_SHRINK);
     get_vbox()->pack_start(Cadre, Gtk::PACK_EXPAND_WIDGET);
     add_button("_Jeter", ReponseJette);
-    add_button("_Plus tard", Gtk::RESPONSE_CANCEL);
+    add_button(Copies.empty() ? "_Fermer" : "_Plus tard", Gtk::RESPONSE_CANCEL);
     add_button("_Récupérer", Gtk::RESPONSE_OK);
-    set_default_response(Gtk::RESPONSE_OK);
+    set_default_response(Copies.empty() ? Gtk::RESPONSE_CANCEL : Gtk::RESPONSE_OK);
     set_response_sensitive(ReponseJette, !Copies.empty());
     set_response_sensitive(Gtk::RESPONSE_OK, !Copies.empty());
     show_all_children();
@@ -79,7 +79,9 @@ RecuperationDialog::RecuperationDialog(Gtk::Window& parente, std::vector<CopieSe
 void RecuperationDialog::Ajoute(std::size_t rang) {
     const CopieSecours& copie = Copies[rang];
     Gtk::TreeRow ligne = *Lignes->append();
-    ligne[Champs.Image] = Vignette(Recuperation::Texte(copie), LargeurImage, HauteurImage);
+    const bool longue = copie.Taille > VignetteMax;
+    ligne[Champs.Image] =
+        Vignette(longue ? "" : Recuperation::Texte(copie), LargeurImage, HauteurImage);
     ligne[Champs.Texte] = Description(copie);
     ligne[Champs.Rang] = rang;
 }

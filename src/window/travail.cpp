@@ -79,7 +79,10 @@ bool DessinWindow::FaitSecoursPrevu() {
 }
 
 void DessinWindow::PasseSecours() {
-    if (!Secours.Passe()) DitSansSecours();
+    if (!Secours.Passe())
+        DitSansSecours();
+    else if (Secours.AJour())
+        SansSecoursDit = false;
 }
 
 void DessinWindow::DitSansSecours() {
@@ -95,8 +98,10 @@ bool DessinWindow::ApresEcriture(bool ecrit, bool autre) {
     const int erreur = errno;
     MetTitre();
     if (ecrit) {
-        Secours.Oublie();
+        Secours.Enregistre();
         NomPropose.clear();
+        // What was said of the file or of a save before this one is over.
+        Messages.Cache();
         DitOriginalGarde(autre);
         return true;
     }
@@ -121,6 +126,8 @@ void DessinWindow::DitOriginalGarde(bool autre) {
 }
 
 bool DessinWindow::PeutRemplacer(bool demande) {
+    // A chain in hand is drawn, too.
+    Zone.Outils.Finit();
     if (!BddCourante.AEnregistrer()) return true;
     return !demande || DemandeEnregistrement();
 }
@@ -157,18 +164,25 @@ void DessinWindow::ProposeRecuperation() {
         }
     }
     Secours.RangeOrphelines();
+    if (Secours.EnGardeDAutres())
+        Messages.Dit(
+            "Les copies qui restent sont dans Compléments / Récupérer un dessin….",
+            {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}});
 }
 
 void DessinWindow::Reprend(const CopieSecours& copie) {
     const std::string texte = Recuperation::Texte(copie);
-    if (texte.empty()) {
-        Messages.Dit("Cette copie ne peut plus être lue.");
+    if (texte.compare(0, 7, "VERSION") != 0) {
+        Messages.Dit("Cette copie ne peut pas être lue.");
         return;
     }
-    if (!PeutRemplacer(true) || !Abandonne(true)) return;
+    const auto garde = PeutRemplacer(true) ? Abandonne(true) : std::nullopt;
+    if (!garde) return;
     BddCourante.Recupere(texte, copie.Nom);
     if (!copie.Nom.empty()) NomPropose = Glib::path_get_basename(copie.Nom);
+    Secours.Reprend(copie);
     Zone.Outils.Recommence();
     MetTitre();
-    Secours.Ecrit("Travail non enregistré");
+    DitLecture(*garde);
+    if (!Secours.Ecrit("Travail non enregistré")) DitSansSecours();
 }

@@ -14,14 +14,13 @@
 
 namespace {
 
-constexpr double Marge = 5.0;                 ///< Around the drawing, in pixels.
-constexpr double PixelsParMm = 3.0;           ///< Widths and dashes are those of a coarse page.
-constexpr std::size_t TailleMax = 20u << 20;  ///< A longer text would keep the user waiting.
+constexpr double Marge = 5.0;        ///< Around the drawing, in pixels.
+constexpr double PixelsParMm = 3.0;  ///< Widths and dashes are those of a coarse page.
 
 /// How far the drawing reaches, y downward, in drawing units.
 std::optional<Boite> EtendueDe(const BDDGeoBase& bdd) {
     const VuePage unite({0.0, 0.0}, 1.0);
-    TraceEtendue trace;
+    TraceEtendue trace(true);
     bdd.Dessine(trace);
     return trace.Etendue();
 }
@@ -46,7 +45,7 @@ Glib::RefPtr<Gdk::Pixbuf> Vignette(const std::string& texte, int largeur, int ha
     const auto page = surface->create_cairo_context();
     page->set_source_rgb(1.0, 1.0, 1.0);
     page->paint();
-    if (texte.size() <= TailleMax) {
+    if (texte.size() <= VignetteMax) {
         // Read without the words that a refused version gets.
         BDDGeoBase bdd;
         Lecteur entree(texte);

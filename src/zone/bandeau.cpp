@@ -76,8 +76,8 @@ bool Bandeau::on_button_press_event(GdkEventButton*) {
 
 void Bandeau::Repond(int reponse) {
     if (reponse < 0 || reponse >= static_cast<int>(Issues.size())) return;
+    // What is said stays until the way out has been gone to its end.
     const sigc::slot<void> effet = Issues[static_cast<std::size_t>(reponse)].Effet;
-    Cache();
     effet();
 }
 

@@ -135,8 +135,9 @@ TEST(Recuperation, NEcritQueCeQuiEstNouveauEtAssezTard) {
 TEST(Recuperation, GardeLesPlusNeuvesParmiNImporteQuoi) {
     const std::string dossier = DossierNeuf();
     ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
-    const char* const etrangers[] = {"copie-.vek", "copie-abc.vek", "encours-zut.vek",
-                                     "lettre.txt"};
+    const char* const etrangers[] = {"copie-.vek",      "copie-99999999999999999999-1.vek",
+                                     "copie-abc.vek",   "copie--1.vek",
+                                     "encours-zut.vek", "lettre.txt"};
     for (const char* nom : etrangers)
         ASSERT_TRUE(EcritFichier(dossier + "/" + nom, "\n#copie de secours\ndate -7\nnom xzz\n"));
     fs::create_directory(dossier + "/copie-000000099-1.vek");
@@ -151,8 +152,16 @@ TEST(Recuperation, GardeLesPlusNeuvesParmiNImporteQuoi) {
     ASSERT_EQ(copies.size(), Recuperation::NombreMax);
     EXPECT_EQ(copies.front().Elements, 40) << "the newest first";
     EXPECT_EQ(copies.back().Elements, 11);
-    EXPECT_EQ(secours.Orphelines().size(), 1u);
-    EXPECT_TRUE(fs::exists(dossier + "/lettre.txt"));
+    EXPECT_EQ(secours.Orphelines().size(), 0u);
+    for (const char* nom : etrangers)
+        EXPECT_TRUE(fs::exists(dossier + "/" + nom)) << "what others put there is theirs";
+    // One that is too large drives out none of the others.
+    fs::resize_file(copies[3].Fichier, Recuperation::TailleMax + 1);
+    Dessine(bdd);
+    ASSERT_TRUE(secours.Garde("Remplacé sans être enregistré"));
+    EXPECT_EQ(secours.Gardees().size(), Recuperation::NombreMax - 1);
+    EXPECT_EQ(secours.Gardees().front().Elements, 41);
+    Recuperation::Jette(secours.Gardees().front());
     Recuperation::Jette(copies.front());
     EXPECT_EQ(secours.Gardees().front().Elements, 39);
     fs::remove_all(dossier);
