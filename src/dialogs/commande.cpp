@@ -7,7 +7,9 @@
 #include <gtkmm/toggleaction.h>
 
 #include <algorithm>
+#include <cstring>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -34,13 +36,26 @@ std::string Enseigne::Mot() const {
     return mot;
 }
 
+std::string Enseigne::Touches() const {
+    static const std::pair<const char*, const char*> noms[] = {
+        {"<control>", "Ctrl+"}, {"Home", "Début"}, {"BackSpace", "Retour arrière"}};
+    std::string touches = Touche;
+    for (const auto& [nom, mot] : noms)
+        if (touches.compare(0, std::strlen(nom), nom) == 0)
+            touches.replace(0, std::strlen(nom), mot);
+    if (Raccourci.empty()) return touches;
+    return touches.empty() ? Raccourci : touches + " ou " + Raccourci;
+}
+
 std::string Enseigne::BulleBarre() const {
     if (!Bulle.empty()) return Bulle;
-    std::string touches = Touche;
+    std::string touches = Touches();
     Gtk::StockItem stock;
-    if (touches.empty() && Gtk::Stock::lookup(Gtk::StockID(Image), stock))
-        touches = Gtk::AccelGroup::get_label(stock.get_keyval(), stock.get_modifier());
-    if (!Raccourci.empty()) touches += " ou " + Raccourci;
+    if (Touche.empty() && Gtk::Stock::lookup(Gtk::StockID(Image), stock) && stock.get_keyval()) {
+        const std::string barre =
+            Gtk::AccelGroup::get_label(stock.get_keyval(), stock.get_modifier());
+        touches = touches.empty() ? barre : barre + " ou " + touches;
+    }
     return touches.empty() ? Mot() : Mot() + " (" + touches + ")";
 }
 

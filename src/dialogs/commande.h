@@ -28,6 +28,9 @@ struct Enseigne {
     /// What a user would call it: by default the label without its mnemonic.
     std::string Mot() const;
 
+    /// The keys that it has of its own, as a user calls them; empty for none.
+    std::string Touches() const;
+
     /// What the tool bar says of it: the tooltip, or else the word with the keys.
     std::string BulleBarre() const;
 };

@@ -1,16 +1,15 @@
 #include "elements/traceetendue.h"
 
+#include <algorithm>
 #include <cmath>
 
-TraceEtendue::TraceEtendue() : Trace({-HUGE_VAL, -HUGE_VAL, HUGE_VAL, HUGE_VAL}) {}
+#include "elements/angles.h"
+
+TraceEtendue::TraceEtendue(bool surPapier)
+    : Trace({-HUGE_VAL, -HUGE_VAL, HUGE_VAL, HUGE_VAL}), Papier(surPapier) {}
 
 void TraceEtendue::Atteint(const PointVek& p) {
     if (p.EstFini()) Tout = Tout ? Tout->Avec(p) : Boite::Autour(p, p);
-}
-
-void TraceEtendue::AtteintRond(const PointVek& centre, double rayon) {
-    Atteint(centre - PointVek(rayon, rayon));
-    Atteint(centre + PointVek(rayon, rayon));
 }
 
 void TraceEtendue::Compose(const Boite&, const std::function<void(Trace&)>& dessine) {
@@ -26,8 +25,16 @@ void TraceEtendue::Droite(const PointVek& p, const PointVek&) {
     Atteint(p);
 }
 
-void TraceEtendue::Arc(ArcEcran arc, bool) {
-    AtteintRond(arc.Centre, arc.Rayon);
+void TraceEtendue::Arc(ArcEcran arc, bool plein) {
+    Segment(arc.Point(arc.Debut), arc.Point(arc.Debut + arc.Ouverture));
+    if (plein) Atteint(arc.Centre);
+    // Where it turns back: at the quarters of the circle that it passes.
+    const double bas = std::min(arc.Debut, arc.Debut + arc.Ouverture);
+    const double quart = Pi / 2.0;
+    const double premier = std::ceil(bas / quart);
+    for (int rang = 0; rang < 4 && (premier + rang) * quart <= bas + std::abs(arc.Ouverture);
+         ++rang)
+        Atteint(arc.Point((premier + rang) * quart));
 }
 
 void TraceEtendue::Polygone(const std::vector<LienEcran>& liens) {
@@ -41,8 +48,8 @@ void TraceEtendue::Rectangle(const PointVek& coin, double largeur, double hauteu
     Segment(coin, coin + PointVek(largeur, hauteur));
 }
 
-void TraceEtendue::Croix(const PointVek& centre, double bras) {
-    AtteintRond(centre, bras);
+void TraceEtendue::Croix(const PointVek& centre, double) {
+    Atteint(centre);
 }
 
 void TraceEtendue::Texte(const TexteEcran& texte, const Gdk::Color&) {

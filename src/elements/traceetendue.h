@@ -5,15 +5,16 @@
 #include "elements/trace.h"
 
 /// Paints nothing: finds how far what is painted reaches, in the view's pixels. Of an endless line
-/// one point counts.
+/// and of a marker one point counts.
 class TraceEtendue : public Trace {
   public:
-    TraceEtendue();
+    /// surPapier: of what is printed; else of all that shows on the screen.
+    explicit TraceEtendue(bool surPapier);
 
     /// The box that holds all; none when nothing was painted.
     const std::optional<Boite>& Etendue() const { return Tout; }
 
-    bool SurPapier() const override { return true; }
+    bool SurPapier() const override { return Papier; }
     void AppliqueTrait(const Trait&, Matiere) override {}
     void Compose(const Boite& boite, const std::function<void(Trace&)>& dessine) override;
     void Segment(const PointVek& a, const PointVek& b) override;
@@ -27,7 +28,6 @@ class TraceEtendue : public Trace {
 
   private:
     void Atteint(const PointVek& p);
-    void AtteintRond(const PointVek& centre, double rayon);
-
+    const bool Papier;
     std::optional<Boite> Tout;
 };

@@ -92,13 +92,35 @@ void Historique::Fait(std::unique_ptr<Pas> pas) {
 
 void Historique::Note(std::unique_ptr<Pas> pas) {
     Faits.push_back(std::move(pas));
+    Defaits.clear();
 }
 
 bool Historique::Annule() {
-    if (Faits.empty()) return false;
-    const std::unique_ptr<Pas> pas = std::move(Faits.back());
-    Faits.pop_back();
-    pas->Defait(Bdd);
+    OublieSiChange();
+    return Passe(Faits, Defaits, &Pas::Defait);
+}
+
+bool Historique::Refait() {
+    OublieSiChange();
+    return Passe(Defaits, Faits, &Pas::Fait);
+}
+
+void Historique::Vide() {
+    Faits.clear();
+    Defaits.clear();
+}
+
+bool Historique::Passe(Pile& de, Pile& vers, void (Pas::*operation)(BDDGeo&)) {
+    if (de.empty()) return false;
+    std::unique_ptr<Pas> pas = std::move(de.back());
+    de.pop_back();
+    ((*pas).*operation)(Bdd);
+    vers.push_back(std::move(pas));
     Bdd.NoteChangement();
+    Vu = Bdd.Changements();
     return true;
+}
+
+void Historique::OublieSiChange() {
+    if (Vu != Bdd.Changements()) Defaits.clear();
 }

@@ -110,7 +110,8 @@ class PasEnsemble : public Pas {
     std::vector<std::unique_ptr<Pas>> Tous;
 };
 
-/// What has been done to a drawing and can be undone.
+/// What has been done to a drawing and can be undone, and what was undone and can be done again
+/// until something else changes.
 class Historique {
   public:
     explicit Historique(BDDGeo& bdd) : Bdd(bdd) {}
@@ -124,9 +125,23 @@ class Historique {
     /// Undoes the newest step; false when there is none.
     bool Annule();
 
-    void Vide() { Faits.clear(); }
+    /// Does again the step that was undone last; false when there is none.
+    bool Refait();
+
+    void Vide();
 
   private:
+    using Pile = std::vector<std::unique_ptr<Pas>>;
+
+    /// Brings the newest step of one pile to the other one by the operation; false without one.
+    bool Passe(Pile& de, Pile& vers, void (Pas::*operation)(BDDGeo&));
+
+    /// Forgets what was undone where the drawing has changed since: it may not fit any more.
+    void OublieSiChange();
+
     BDDGeo& Bdd;
-    std::vector<std::unique_ptr<Pas>> Faits;  ///< The newest last.
+    Pile Faits;    ///< The newest last.
+    Pile Defaits;  ///< The one undone last is last.
+    unsigned long Vu =
+        0;  ///< The drawing's count of changes when a step was last undone or redone.
 };

@@ -90,6 +90,25 @@ void Echelle::ZoomRectangle(const PointVek& a, const PointVek& b, int largeur) {
     if (::Distance(a, b) > 1e-6) SetFacteur(largeur / cote);
 }
 
+void Echelle::ZoomAutour(const PointVek& p, double rapport) {
+    const double avant = Facteur;
+    SetFacteur(Facteur * rapport);
+    Origine = p + (Origine - p) * (avant / Facteur);
+}
+
+void Echelle::MontreTout(const PointVek& a, const PointVek& b, int largeur, int hauteur) {
+    constexpr double part = 0.9;
+    const double w = std::abs(b.x - a.x), h = std::abs(b.y - a.y);
+    // A null extent divides to infinity, which the other one stays below.
+    const double facteur = part * std::min(largeur / w, hauteur / h);
+    Montre((a + b) / 2.0, std::isfinite(facteur) ? facteur : Facteur);
+}
+
+void Echelle::Montre(const PointVek& origine, double facteur) {
+    SetFacteur(facteur);
+    if (std::abs(origine.x) <= OrigineMax && std::abs(origine.y) <= OrigineMax) Origine = origine;
+}
+
 void Echelle::Haut() {
     Origine.y = std::min(Origine.y + Proche10, OrigineMax);
 }

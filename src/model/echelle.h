@@ -36,6 +36,16 @@ class Echelle : public EltGeo {
     /// plays no part: the zoom that users are used to. A null rectangle only recentres.
     void ZoomRectangle(const PointVek& a, const PointVek& b, int largeur);
 
+    /// Scales by rapport; p stays where it is on the screen.
+    void ZoomAutour(const PointVek& p, double rapport);
+
+    /// Shows the rectangle a b whole in an area of largeur by hauteur pixels, with a margin of 5 %
+    /// on each side. One without extent comes to the middle at the present scale.
+    void MontreTout(const PointVek& a, const PointVek& b, int largeur, int hauteur);
+
+    /// Shows origine in the middle at facteur pixels a unit, where these can be worked with.
+    void Montre(const PointVek& origine, double facteur);
+
     // Pans by ten pixels.
     void Haut();
     void Bas();

@@ -46,6 +46,7 @@ DessinWindow::DessinWindow()
     BoiteVerticale.pack_start(BoiteMenu, Gtk::PACK_SHRINK);
     Zone.Souris.SignalPosition().connect(sigc::mem_fun(*this, &DessinWindow::AffichePosition));
     Zone.Outils.SignalEtat().connect(sigc::mem_fun(*this, &DessinWindow::AfficheInvite));
+    Zone.Souris.SignalCible().connect(sigc::mem_fun(*this, &DessinWindow::AfficheClic));
     RangeEtat();
     BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
     AfficheCalques();
@@ -77,6 +78,29 @@ void DessinWindow::AffichePosition(const PointVek& p) {
 
 void DessinWindow::AfficheInvite(const LigneEtat& ligne) {
     LabelAction.set_text(ligne.Invite);
+    AfficheClic();
+}
+
+void DessinWindow::AfficheClic() {
+    const auto cible = Zone.Outils.ClicDeplace();
+    if (!cible) return MontreClic(0);
+    const Glib::ustring texte = "clic " + TexteNombre(cible->Point.x) + " ; " +
+                                TexteNombre(cible->Point.y) + " (" + cible->Genre + ")";
+    // It takes what the prompt leaves, and never makes the window wider.
+    constexpr int jeu = 10, utile = 60;
+    int voulue = 0, invite = 0, hauteur = 0;
+    create_pango_layout(texte)->get_pixel_size(voulue, hauteur);
+    create_pango_layout(LabelAction.get_text())->get_pixel_size(invite, hauteur);
+    const int libre = CadreAction.get_allocation().get_width() - MargeAction - invite - jeu;
+    LabelClic.set_text(texte);
+    MontreClic(libre < utile ? 0 : std::min(voulue + jeu, libre));
+}
+
+void DessinWindow::MontreClic(int largeur) {
+    const auto gauche = static_cast<guint>(largeur > 0 ? 0 : MargeAction);
+    CadreAction.set_padding(0, 0, gauche, static_cast<guint>(MargeAction));
+    LabelClic.set_size_request(largeur, -1);
+    LabelClic.set_visible(largeur > 0);
 }
 
 void DessinWindow::RangeEtat() {
@@ -87,16 +111,27 @@ void DessinWindow::RangeEtat() {
         coordonnee->set_alignment(Gtk::ALIGN_LEFT);
         BoiteEtat.pack_start(*coordonnee, Gtk::PACK_SHRINK, MargeMin);
     }
+    LabelClic.set_ellipsize(Pango::ELLIPSIZE_END);
+    LabelClic.set_alignment(Gtk::ALIGN_LEFT);
+    LabelClic.set_no_show_all(true);
     for (Gtk::Label* calque : {&LabelTravail, &LabelAffiche, &LabelCalques})
         BoiteEtat.pack_end(*calque, Gtk::PACK_SHRINK, MargeMin);
     LabelAction.set_ellipsize(Pango::ELLIPSIZE_END);
     LabelAction.set_alignment(Gtk::ALIGN_RIGHT);
-    BoiteEtat.pack_end(LabelAction, Gtk::PACK_EXPAND_WIDGET, MargeMin);
-    BoiteEtat.foreach (sigc::ptr_fun(&EcritEnSombre));
+    BoiteAction.pack_start(LabelClic, Gtk::PACK_SHRINK);
+    BoiteAction.pack_end(LabelAction, Gtk::PACK_EXPAND_WIDGET);
+    CadreAction.set(0.0, 0.0, 1.0, 1.0);
+    CadreAction.add(BoiteAction);
+    MargeAction = MargeMin;
+    MontreClic(0);
+    BoiteEtat.pack_end(CadreAction, Gtk::PACK_EXPAND_WIDGET);
+    for (Gtk::Label* libelle :
+         {&LabelX, &LabelY, &LabelClic, &LabelAction, &LabelTravail, &LabelAffiche, &LabelCalques})
+        EcritEnSombre(*libelle);
 }
 
 int DessinWindow::MargeVoulue(const Gtk::Widget* libelle) const {
-    if (libelle == &LabelAction) return 200;
+    if (libelle == &CadreAction) return 200;
     return libelle == &LabelX || libelle == &LabelY ? 100 : 20;
 }
 
@@ -106,7 +141,7 @@ void DessinWindow::AjusteMarges(int largeur) {
     int libre = largeur - invite, voulues = 0;
     for (const Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
         const Gtk::Widget* libelle = enfant.get_widget();
-        if (libelle != &LabelAction) libre -= libelle->size_request().width;
+        if (libelle != &CadreAction) libre -= libelle->size_request().width;
         libre -= 2 * MargeMin;
         voulues += 2 * (MargeVoulue(libelle) - MargeMin);
     }
@@ -114,8 +149,13 @@ void DessinWindow::AjusteMarges(int largeur) {
     for (Gtk::Box_Helpers::Child& enfant : BoiteEtat.children()) {
         const int voulue = MargeVoulue(enfant.get_widget());
         const int marge = MargeMin + static_cast<int>(part * (voulue - MargeMin));
-        enfant.set_options(enfant.get_expand(), enfant.get_fill(), static_cast<unsigned>(marge));
+        if (enfant.get_widget() == &CadreAction)
+            MargeAction = marge;
+        else
+            enfant.set_options(enfant.get_expand(), enfant.get_fill(),
+                               static_cast<unsigned>(marge));
     }
+    MontreClic(0);
 }
 
 void DessinWindow::AfficheCalques() {

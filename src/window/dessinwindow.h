@@ -103,6 +103,12 @@ class DessinWindow : public Gtk::Window {
     void AffichePosition(const PointVek& p);
     void AfficheInvite(const LigneEtat& ligne);
 
+    /// Says where a click acts while it is not where the pointer is.
+    void AfficheClic();
+
+    /// Shows the place of the click in that width, or with 0 the margin that stands there else.
+    void MontreClic(int largeur);
+
     /// Margin in pixels of a label of the status row where there is room.
     int MargeVoulue(const Gtk::Widget* libelle) const;
 
@@ -169,7 +175,11 @@ class DessinWindow : public Gtk::Window {
     Gtk::HBox BoiteEtat;
     Gtk::Label LabelX;
     Gtk::Label LabelY;
+    Gtk::Alignment CadreAction;  ///< Its margins are the prompt's, or the free place's.
+    Gtk::HBox BoiteAction;
+    Gtk::Label LabelClic;
     Gtk::Label LabelAction;
+    int MargeAction = 0;
     Gtk::Label LabelCalques;
     Gtk::Label LabelTravail;
     Gtk::Label LabelAffiche;

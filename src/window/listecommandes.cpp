@@ -20,8 +20,8 @@ void AjouteLignes(const std::vector<Commande<DessinWindow>>& entrees, const std:
             continue;
         }
         liste += "<tr><td>" + nom + "</td><td>";
-        if (!commande.Touche.empty())
-            liste += "<kbd>" + Glib::Markup::escape_text(commande.Touche).raw() + "</kbd>";
+        if (const std::string touches = commande.Touches(); !touches.empty())
+            liste += "<kbd>" + Glib::Markup::escape_text(touches).raw() + "</kbd>";
         liste += "</td><td>" + Glib::Markup::escape_text(commande.Bulle).raw() + "</td></tr>\n";
     }
 }

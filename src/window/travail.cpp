@@ -166,7 +166,7 @@ void DessinWindow::ProposeRecuperation() {
     Secours.RangeOrphelines();
     if (Secours.EnGardeDAutres())
         Messages.Dit(
-            "Les copies qui restent sont dans Compléments / Récupérer un dessin….",
+            "D'autres copies sont gardées : Compléments / Récupérer un dessin…",
             {{"Récupérer un dessin…", sigc::mem_fun(*this, &DessinWindow::RecupereDessin)}});
 }
 

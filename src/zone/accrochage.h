@@ -14,7 +14,15 @@ struct OptionsAccrochage {
     bool Extremites = true;     ///< Centres, ends, middles and corners.
 };
 
+/// A place that a click jumps to, in drawing units, and what it is to the user.
+struct PointAccroche {
+    PointVek Point;
+    const char* Genre;
+};
+
 /// The special point within the pick distance of p, in drawing units: a crossing before a centre or
-/// an end, and of these the nearer one.
-std::optional<PointVek> ChercheAccroche(BDDGeo& bdd, const PointVek& p,
-                                        const OptionsAccrochage& options);
+/// an end, and of these the nearer one. With boutsDevant a crossing out of that distance hides no
+/// centre or end.
+std::optional<PointAccroche> ChercheAccroche(BDDGeo& bdd, const PointVek& p,
+                                             const OptionsAccrochage& options,
+                                             bool boutsDevant = false);

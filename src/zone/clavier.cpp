@@ -29,10 +29,12 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
         case GDK_Z:
         case GDK_z:
             // With Control it is the key that every hand knows for undoing, and with Shift besides
-            // it is another one.
+            // for doing again.
             if (evenement->state & GDK_CONTROL_MASK) {
-                if (evenement->state & GDK_SHIFT_MASK) return false;
-                AnnuleAction();
+                if (evenement->state & GDK_SHIFT_MASK)
+                    RefaitAction();
+                else
+                    AnnuleAction();
                 return true;
             }
             EchelleCourante.Origine = Souris.Position();
@@ -48,6 +50,18 @@ bool ZoneDessin::ToucheEnfoncee(const GdkEventKey* evenement) {
         case GDK_Delete:
         case GDK_KP_Delete:
             SupPopup();
+            return true;
+        case GDK_KP_Home:
+            // The key of the menu, on the other block.
+            ToutVoir();
+            return true;
+        case GDK_Page_Up:
+        case GDK_KP_Page_Up:
+            Souris.PasseRepere(-1);
+            return true;
+        case GDK_Page_Down:
+        case GDK_KP_Page_Down:
+            Souris.PasseRepere(1);
             return true;
         case GDK_F10:
             // Alone it is the menu bar's.

@@ -36,7 +36,20 @@ void Machine::MetEtat(int etat) {
     Etats.emit(ligne);
 }
 
+std::optional<PointAccroche> Machine::ClicDeplace() const {
+    if (!Ligne().Clic) return std::nullopt;
+    auto cible = Souris.Cible(!Ligne().IgnoreRepere);
+    if (cible && Distance(cible->Point, Souris.Position()) == 0.0) cible.reset();
+    return cible;
+}
+
+void Machine::Impose(const std::optional<PointVek>& p) {
+    Impose_ = p;
+    MontreBande();
+}
+
 void Machine::Clique(const PointVek& p) {
+    Souris.Reference = p;
     const LigneEtat& ligne = Ligne();
     if (!ligne.Clic || !ligne.Clic(*this, p)) {
         Etats.emit(Ligne());
@@ -58,7 +71,8 @@ void Machine::Finit() {
 void Machine::MontreBande() {
     const LigneEtat& ligne = Ligne();
     if (ligne.BandeVers)
-        Vue.Dessus.Montre(Bandes::Outil, ligne.BandeVers(*this, Souris.Position()));
+        Vue.Dessus.Montre(Bandes::Outil,
+                          ligne.BandeVers(*this, Impose_.value_or(Souris.Position())));
 }
 
 void Machine::MontrePoignees() {
@@ -106,7 +120,8 @@ void Machine::Recommence() {
     Redessine();
 }
 
-void Machine::VueChangee() {
+void Machine::VueChangee(bool suite) {
+    Vue.Precedentes.Note(suite);
     Redessine();
     Souris.SuitVue();
     if (Vue.Dessus.Visible(Bandes::Outil)) MontreBande();

@@ -4,6 +4,7 @@
 #include <sigc++/trackable.h>
 
 #include <memory>
+#include <optional>
 
 #include "model/bddgeoclipboard.h"
 #include "zone/etats.h"
@@ -12,6 +13,7 @@
 class LigneEtat;
 class Pointeur;
 class VueZone;
+struct PointAccroche;
 
 /// The engine of the tools: what a tool does state by state stands in the rows under `outils/`;
 /// this class walks them, and holds what they work with.
@@ -30,6 +32,13 @@ class Machine : public sigc::trackable {
 
     /// Does what a click at p, in drawing units and snapped, does in the present state.
     void Clique(const PointVek& p);
+
+    /// Where a click would act though the pointer is elsewhere; none where it acts at the pointer,
+    /// or does nothing.
+    std::optional<PointAccroche> ClicDeplace() const;
+
+    /// The band goes to that point instead of the pointer, until it is given back with none.
+    void Impose(const std::optional<PointVek>& p);
 
     /// Ends an open ring; nothing elsewhere.
     void Finit();
@@ -55,8 +64,9 @@ class Machine : public sigc::trackable {
     /// The drawing is another one, or the tool is to be left with all that it shows.
     void Recommence();
 
-    /// Repaints after a change of the view: the pointer's position follows from its pixel.
-    void VueChangee();
+    /// Repaints after a change of the view: the pointer's position follows from its pixel. suite
+    /// tells that the change goes on with the one before it.
+    void VueChangee(bool suite = false);
 
     /// Displays one layer, or all with -1; what is hidden by it is let go.
     void SetCalqueAffiche(int calque);
@@ -104,6 +114,7 @@ class Machine : public sigc::trackable {
     void LaisseDeplacement();
 
     Pointeur& Souris;
+    std::optional<PointVek> Impose_;  ///< Where the band goes to in the pointer's place.
     int Etat = ETAT_REPOS;
     sigc::signal<void, const LigneEtat&> Etats;
 };

@@ -1,5 +1,7 @@
 #include "zone/pointeur.h"
 
+#include <algorithm>
+
 #include "elements/angles.h"
 #include "elements/trace.h"
 #include "elements/vue.h"
@@ -23,6 +25,7 @@ Bande BandeRepere(const PointVek& p) {
 }  // namespace
 
 void Pointeur::Suit(const PointVek& pixel) {
+    if (!Pixel || Distance(pixel, *Pixel) > 0.0) Choisi.reset();
     Pixel = pixel;
     Point = EchelleCourante.VersDessin(pixel);
     Positions.emit(Point);
@@ -34,21 +37,48 @@ void Pointeur::SuitVue() {
 }
 
 void Pointeur::MajRepere() {
-    if (!Options.Actif) return;
-    Repere = ChercheAccroche(BddCourante, Point, Options);
-    Vue.Dessus.Montre(Bandes::Repere, Repere ? BandeRepere(*Repere) : Bande());
+    if (Options.Actif) {
+        Points = ChercheAccroches(BddCourante, Point, Options, Speciales, Reference);
+        const auto choisi =
+            std::find_if(Points.begin(), Points.end(), [this](const PointAccroche& autre) {
+                return Choisi && Distance(autre.Point, *Choisi) == 0.0;
+            });
+        Rang = choisi == Points.end() ? 0 : static_cast<std::size_t>(choisi - Points.begin());
+        MontreRepere();
+    }
+    Cibles.emit();
+}
+
+void Pointeur::MontreRepere() {
+    Vue.Dessus.Montre(Bandes::Repere, Points.empty() ? Bande() : BandeRepere(Points[Rang].Point));
+}
+
+void Pointeur::PasseRepere(int pas) {
+    if (Points.empty()) return;
+    const auto nombre = static_cast<int>(Points.size());
+    Rang = static_cast<std::size_t>((static_cast<int>(Rang) + pas + nombre) % nombre);
+    Choisi = Points[Rang].Point;
+    MontreRepere();
+    Cibles.emit();
 }
 
 void Pointeur::CacheRepere() {
-    Repere.reset();
-    Vue.Dessus.Montre(Bandes::Repere, {});
+    Points.clear();
+    Rang = 0;
+    MontreRepere();
+    Cibles.emit();
 }
 
-PointVek Pointeur::PositionClic(const PointVek& pixel, bool avecRepere) const {
-    if (Repere && avecRepere) return *Repere;
+PointAccroche Pointeur::PositionClic(const PointVek& pixel, bool avecRepere) const {
+    if (!Points.empty() && avecRepere) return Points[Rang];
     PointVek p = EchelleCourante.VersDessin(pixel);
     Vue.GrilleCourante.Aligne(p);
-    return p;
+    return {p, "grille"};
+}
+
+std::optional<PointAccroche> Pointeur::Cible(bool avecRepere) const {
+    if (!Pixel) return std::nullopt;
+    return PositionClic(*Pixel, avecRepere);
 }
 
 void Pointeur::Bascule(bool OptionsAccrochage::*option) {

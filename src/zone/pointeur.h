@@ -3,9 +3,10 @@
 #include <sigc++/signal.h>
 
 #include <optional>
+#include <vector>
 
 #include "elements/pointvek.h"
-#include "zone/accrochage.h"
+#include "zone/pointsspeciaux.h"
 
 class VueZone;
 
@@ -29,9 +30,16 @@ class Pointeur {
     void MajRepere();
     void CacheRepere();
 
-    /// Where a click at the pixel acts: snapped by the grid, or taken by the snap marker where
-    /// avecRepere is true and it is shown.
-    PointVek PositionClic(const PointVek& pixel, bool avecRepere) const;
+    /// Brings the marker to the next of several special points near to the pointer, or with -1 to
+    /// the one before.
+    void PasseRepere(int pas);
+
+    /// Where a click at the pixel acts, and what it is there: snapped by the grid, or taken by the
+    /// snap marker where avecRepere is true and it is shown.
+    PointAccroche PositionClic(const PointVek& pixel, bool avecRepere) const;
+
+    /// The same where the pointer is; none before it came.
+    std::optional<PointAccroche> Cible(bool avecRepere) const;
 
     /// Toggles one of the snap options.
     void Bascule(bool OptionsAccrochage::*option);
@@ -39,12 +47,22 @@ class Pointeur {
     /// Tells the position whenever it is found anew.
     sigc::signal<void, const PointVek&>& SignalPosition() { return Positions; }
 
+    /// Tells that a click may act elsewhere than it did.
+    sigc::signal<void>& SignalCible() { return Cibles; }
+
     OptionsAccrochage Options;
+    OptionsSpeciales Speciales;
+    PointVek Reference;  ///< The point that was given last, in drawing units.
 
   private:
     VueZone& Vue;
-    std::optional<PointVek> Pixel;   ///< None before the mouse came.
-    PointVek Point;                  ///< The same in drawing units.
-    std::optional<PointVek> Repere;  ///< The special point that a click would take, while shown.
+    void MontreRepere();
+
+    std::optional<PointVek> Pixel;      ///< None before the mouse came.
+    PointVek Point;                     ///< The same in drawing units.
+    std::vector<PointAccroche> Points;  ///< Those that a click may take, while the marker is shown.
+    std::size_t Rang = 0;               ///< Of them the one that is marked.
+    std::optional<PointVek> Choisi;     ///< The one that was passed on to, while the mouse rests.
     sigc::signal<void, const PointVek&> Positions;
+    sigc::signal<void> Cibles;
 };

@@ -17,6 +17,11 @@ PointVek PixelEntier(double x, double y) {
 }  // namespace
 
 bool ZoneDessin::on_motion_notify_event(GdkEventMotion* evenement) {
+    if (!(evenement->state & GDK_BUTTON2_MASK)) FeuilleTenue.reset();
+    if (FeuilleTenue) {
+        GlisseFeuille(PixelEntier(evenement->x, evenement->y));
+        return true;
+    }
     Souris.Suit(PixelEntier(evenement->x, evenement->y));
     Souris.MajRepere();
     Outils.MontreBande();
@@ -30,7 +35,13 @@ bool ZoneDessin::on_button_press_event(GdkEventButton* evenement) {
     if (evenement->button == 1) {
         Souris.Suit(pixel);
         Souris.MajRepere();
-        Outils.Clique(Souris.PositionClic(pixel, !Outils.Ligne().IgnoreRepere));
+        Outils.Clique(Souris.PositionClic(pixel, !Outils.Ligne().IgnoreRepere).Point);
+        return true;
+    }
+    if (evenement->button == 2) {
+        Souris.Suit(pixel);
+        FeuilleTenue = Souris.Position();
+        FeuilleGlisse = false;
         return true;
     }
     if (evenement->button == 3) {
@@ -39,6 +50,26 @@ bool ZoneDessin::on_button_press_event(GdkEventButton* evenement) {
         return true;
     }
     return false;
+}
+
+void ZoneDessin::GlisseFeuille(const PointVek& pixel) {
+    const PointVek origine =
+        EchelleCourante.Origine + (*FeuilleTenue - EchelleCourante.VersDessin(pixel));
+    EchelleCourante.Montre(origine, EchelleCourante.Facteur);
+    Souris.Suit(pixel);
+    // The whole drag leaves one view behind.
+    Outils.VueChangee(FeuilleGlisse);
+    FeuilleGlisse = true;
+}
+
+void ZoneDessin::ZoomeMolette(bool plus) {
+    constexpr double rapport = 1.25;
+    if (MoletteProgressive)
+        EchelleCourante.ZoomAutour(Souris.Position(), plus ? rapport : 1.0 / rapport);
+    else if (plus)
+        EchelleCourante.ZoomPlusEn(Souris.Position());
+    else
+        EchelleCourante.ZoomMoinsEn(Souris.Position());
 }
 
 bool ZoneDessin::on_scroll_event(GdkEventScroll* evenement) {
@@ -51,14 +82,14 @@ bool ZoneDessin::on_scroll_event(GdkEventScroll* evenement) {
         else if (majuscule)
             EchelleCourante.Droite();
         else
-            EchelleCourante.ZoomPlusEn(Souris.Position());
+            ZoomeMolette(true);
     } else if (evenement->direction == GDK_SCROLL_DOWN) {
         if (controle)
             EchelleCourante.Bas();
         else if (majuscule)
             EchelleCourante.Gauche();
         else
-            EchelleCourante.ZoomMoinsEn(Souris.Position());
+            ZoomeMolette(false);
     } else {
         return false;
     }

@@ -1,6 +1,7 @@
 #include "zone/vuezone.h"
 
 #include "elements/traceecran.h"
+#include "elements/traceetendue.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "model/feuille.h"
@@ -38,6 +39,20 @@ void VueZone::Redessine() {
     Dessus.AttendRepeinte();
     if (const auto fenetre = Zone.get_window())
         fenetre->invalidate_rect(Gdk::Rectangle(0, 0, Largeur(), Hauteur()), false);
+}
+
+void VueZone::CadreTout() {
+    // Texts and arrows have sizes of their own: what they take is known at the scale they come to.
+    for (int tour = 0; tour < 2; ++tour) {
+        TraceEtendue trace(false);
+        FeuilleCourante.DessineApercu(trace);
+        BddCourante.Dessine(trace);
+        if (!trace.Etendue()) return EchelleCourante.ZoomInit();
+        const Boite& boite = *trace.Etendue();
+        EchelleCourante.MontreTout(EchelleCourante.VersDessin({boite.Gauche, boite.Haut}),
+                                   EchelleCourante.VersDessin({boite.Droite, boite.Bas}), Largeur(),
+                                   Hauteur());
+    }
 }
 
 int VueZone::Largeur() const {

@@ -5,6 +5,7 @@
 
 #include "elements/eltrectangle.h"
 #include "model/grille.h"
+#include "model/vuesprecedentes.h"
 #include "zone/bandes.h"
 
 /// What the drawing area shows, from the background up: the sheet, the zone selection, the grid,
@@ -30,6 +31,10 @@ class VueZone {
     void SetFond(const Gdk::Color& couleur);
     const Gdk::Color& Fond() const { return CouleurFond; }
 
+    /// The view takes in all that shows, the page too while it is shown; without any of it the
+    /// first view.
+    void CadreTout();
+
     // The grid.
 
     void ChangeGrille();
@@ -51,6 +56,7 @@ class VueZone {
     EltRectangle RectangleSelection;  ///< In a style of its own.
     bool SelectionVisible = false;
     Bandes Dessus;
+    VuesPrecedentes Precedentes;
 
   private:
     Gtk::Widget& Zone;

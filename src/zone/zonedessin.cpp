@@ -6,6 +6,7 @@
 #include "model/echelle.h"
 #include "zone/ligneetat.h"
 #include "zone/preferences.h"
+#include "zone/reglages.h"
 
 ZoneDessin::ZoneDessin() : Vue(*this), Souris(Vue), Outils(Vue, Souris), Presse(Outils, *this) {
     set_size_request(400, 400);
@@ -17,6 +18,7 @@ ZoneDessin::ZoneDessin() : Vue(*this), Souris(Vue), Outils(Vue, Souris), Presse(
     });
     Popup.Construit("", CommandesPopup(), *this);
     ChargePreferences(*this);
+    ChargeReglages(*this);
     show();
 }
 
@@ -50,6 +52,21 @@ void ZoneDessin::ZoomInitAction() {
     Outils.VueChangee();
 }
 
+void ZoneDessin::ToutVoir() {
+    Vue.CadreTout();
+    Outils.VueChangee();
+}
+
+void ZoneDessin::VuePrecedente() {
+    if (Vue.Precedentes.Revient()) Outils.VueChangee();
+}
+
+void ZoneDessin::BasculeReglage(bool& reglage) {
+    reglage = !reglage;
+    SauveReglages(*this);
+    Souris.CacheRepere();
+}
+
 void ZoneDessin::OuvreZone(const std::string& nom) {
     BddCourante.Ouvre(nom);
     Outils.Recommence();
@@ -68,6 +85,11 @@ void ZoneDessin::Nouveau() {
 
 void ZoneDessin::AnnuleAction() {
     BddCourante.Annule();
+    Outils.DessinChange();
+}
+
+void ZoneDessin::RefaitAction() {
+    BddCourante.Histoire.Refait();
     Outils.DessinChange();
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtkmm/drawingarea.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,15 +37,23 @@ class ZoneDessin : public Gtk::DrawingArea {
     // Commands of the menus.
 
     void AnnuleAction();
+    void RefaitAction();
 
     /// Gives the style in force to what the zone selection holds.
     void ZoneTrait();
     void ZoomPlusAction();
     void ZoomMoinsAction();
     void ZoomInitAction();
+    void ToutVoir();
+    void VuePrecedente();
 
     /// The menu of the right button and of the menu key.
     static const std::vector<Commande<ZoneDessin>>& CommandesPopup();
+
+    /// Toggles one of the settings beyond the told preferences, and keeps them all.
+    void BasculeReglage(bool& reglage);
+
+    bool MoletteProgressive = false;  ///< The wheel zooms by a quarter, about the pointer.
 
     VueZone Vue;
     Pointeur Souris;
@@ -65,5 +74,13 @@ class ZoneDessin : public Gtk::DrawingArea {
     void AvantPopup();
     void ArrierePopup();
 
+    /// The sheet follows the pointer, which is at that pixel.
+    void GlisseFeuille(const PointVek& pixel);
+
+    /// What a step of the wheel alone does.
+    void ZoomeMolette(bool plus);
+
     MenuContextuel Popup;
+    std::optional<PointVek> FeuilleTenue;  ///< The point of the drawing that button 2 holds.
+    bool FeuilleGlisse = false;            ///< It has moved since.
 };

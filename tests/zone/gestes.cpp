@@ -340,22 +340,22 @@ TEST(Accrochage, ChoixDuPoint) {
     EXPECT_FALSE(ChercheAccroche(BddCourante, {98, 1}, options)) << "snapping is off";
     options.Actif = true;
     // Parallels do not cross: the special point of the nearest one.
-    ExigePoint(*ChercheAccroche(BddCourante, {98, 1}, options), 100, 0);
+    ExigePoint(ChercheAccroche(BddCourante, {98, 1}, options)->Point, 100, 0);
     EXPECT_FALSE(ChercheAccroche(BddCourante, {50, 1}, options)) << "too far from any end";
     options.Extremites = false;
     EXPECT_FALSE(ChercheAccroche(BddCourante, {98, 1}, options));
     // Without crossings the second nearest may give the nearer end.
     options.Extremites = true;
     options.Intersections = false;
-    ExigePoint(*ChercheAccroche(BddCourante, {61, 3}, options), 60, 8);
+    ExigePoint(ChercheAccroche(BddCourante, {61, 3}, options)->Point, 60, 8);
 
     // A circle and a line: the nearer crossing, halfway the second.
     options.Intersections = true;
     BddCourante.Vide();
     AjouteSegment({-100, 0}, {100, 0});
     AjouteCercle({0, 0}, 4);
-    ExigePoint(*ChercheAccroche(BddCourante, {-5, 1}, options), -4, 0);
-    ExigePoint(*ChercheAccroche(BddCourante, {0, 4.5}, options), 4, 0);
+    ExigePoint(ChercheAccroche(BddCourante, {-5, 1}, options)->Point, -4, 0);
+    ExigePoint(ChercheAccroche(BddCourante, {0, 4.5}, options)->Point, 4, 0);
 }
 
 TEST(Vue, TouchesMoletteEtZooms) {
