@@ -1,6 +1,6 @@
 # Sourced by the other scripts: what the program needs of the system.
 
-PAQUETS_CONSTRUCTION="g++ make cmake pkg-config libgtkmm-2.4-dev libgl-dev libglu1-mesa-dev"
+PAQUETS_CONSTRUCTION="g++ make cmake pkg-config libgtkmm-2.4-dev libgl-dev libglu1-mesa-dev libmuparser-dev"
 PAQUETS_MARCHE="librsvg2-common fonts-dejavu-core shared-mime-info xdg-utils"
 PAQUETS_ECRAN_VIRTUEL="xvfb"
 PAQUETS_ESSAIS="libgtest-dev libgl1-mesa-dri $PAQUETS_ECRAN_VIRTUEL"

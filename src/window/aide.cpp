@@ -8,6 +8,7 @@
 
 #include "window/dessinwindow.h"
 #include "window/donnees.h"
+#include "window/listecommandes.h"
 
 namespace {
 
@@ -27,7 +28,12 @@ Glib::Pid LanceNavigateur(const std::string& adresse) {
 }  // namespace
 
 void DessinWindow::Aide() {
-    const std::string adresse = Glib::filename_to_uri(PageAide());
+    AideSur("");
+}
+
+void DessinWindow::AideSur(const std::string& action) {
+    const std::string adresse =
+        Glib::filename_to_uri(PageAide()) + (action.empty() ? "" : "#" + AncreAide(action));
     try {
         // It may start and find nothing to show the page with: only its end tells.
         Glib::signal_child_watch().connect(sigc::mem_fun(*this, &DessinWindow::NavigateurFini),

@@ -57,6 +57,10 @@ const std::vector<Commande<DessinWindow>>& TableComplements() {
                      .AvecBulle("Refaire ce qui vient d'être annulé")
                      .AvecTouche("<control>Y")
                      .AussiPar("Ctrl+Maj+Z"),
+                 Simple("LigneSaisie", "_Ligne de saisie",
+                        [](DessinWindow& fenetre) { fenetre.Frappe.Ouvre(); })
+                     .AvecBulle("Taper un point, une longueur ou une commande")
+                     .AvecTouche("F2"),
                  Ligne::Trait(),
                  Simple("ToutVoir", "_Tout voir", Zone(&ZoneDessin::ToutVoir))
                      .AvecBulle("Montrer tout ce qui est visible")

@@ -26,8 +26,10 @@ constexpr char InviteLongue[] = "Nouvelle position, appuyer sur Ctrl pour faire 
 
 DessinWindow::DessinWindow()
     : Secours(BddCourante, DossierSecours()),
+      Frappe(Zone),
       Fenetre3D(BddCourante),
       Bord(0.0, 0.0, 1.0, 0.0),
+      BordBas(0.0, 1.0, 1.0, 0.0),
       LabelX("XXXX"),
       LabelY("YYYY"),
       LabelAction("Action demandée"),
@@ -51,8 +53,12 @@ DessinWindow::DessinWindow()
     BoiteVerticale.pack_end(BoiteEtat, Gtk::PACK_SHRINK);
     AfficheCalques();
     Bord.add(Messages);
+    BordBas.add(Frappe);
+    Frappe.SignalCommande().connect(sigc::mem_fun(*this, &DessinWindow::Choisit));
+    Frappe.SignalAide().connect(sigc::mem_fun(*this, &DessinWindow::AideSur));
     // The widget that is put in last lies underneath.
     Cadre.attach(Bord, 0, 1, 0, 1);
+    Cadre.attach(BordBas, 0, 1, 0, 1);
     Cadre.attach(Zone, 0, 1, 0, 1);
     BoiteVerticale.pack_start(Cadre, Gtk::PACK_EXPAND_WIDGET);
     Zone.set_size_request(-1, -1);
@@ -185,6 +191,7 @@ bool DessinWindow::on_configure_event(GdkEventConfigure* evenement) {
 }
 
 bool DessinWindow::on_key_press_event(GdkEventKey* evenement) {
+    if (Frappe.Touche(evenement)) return true;
     // The accelerators of the menus come first.
     const bool prise = Gtk::Window::on_key_press_event(evenement);
     return Zone.ToucheEnfoncee(evenement) || prise;
@@ -192,7 +199,7 @@ bool DessinWindow::on_key_press_event(GdkEventKey* evenement) {
 
 bool DessinWindow::on_key_release_event(GdkEventKey* evenement) {
     Gtk::Window::on_key_release_event(evenement);
-    Zone.ToucheRelachee();
+    if (!Frappe.EstOuverte()) Zone.ToucheRelachee();
     return true;
 }
 

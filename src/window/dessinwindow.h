@@ -16,6 +16,7 @@
 
 #include "model/recuperation.h"
 #include "view3d/window3d.h"
+#include "window/lignesaisie.h"
 #include "zone/bandeau.h"
 #include "zone/zonedessin.h"
 
@@ -80,6 +81,12 @@ class DessinWindow : public Gtk::Window {
     void APropos();
     void Aide();
 
+    /// Opens the help at a command, given by its action; at the beginning for an empty name.
+    void AideSur(const std::string& action);
+
+    /// Chooses a command by its action.
+    void Choisit(const std::string& action);
+
     /// Shows all copies of drawings that were not saved, and takes one back.
     void RecupereDessin();
 
@@ -90,6 +97,7 @@ class DessinWindow : public Gtk::Window {
     ZoneDessin Zone;
     Recuperation Secours;
     Bandeau Messages;
+    LigneSaisie Frappe;
 
   protected:
     bool on_delete_event(GdkEventAny* evenement) override;
@@ -167,6 +175,7 @@ class DessinWindow : public Gtk::Window {
     Window3D Fenetre3D;
     Gtk::Table Cadre;        ///< The drawing area with the strip over its upper edge.
     Gtk::Alignment Bord;     ///< Of the strip.
+    Gtk::Alignment BordBas;  ///< Of the line.
     std::string NomPropose;  ///< For the first save of a drawing that was taken back.
     bool SecoursPrevu = false;
     bool SansSecoursDit = false;

@@ -19,7 +19,7 @@ void AjouteLignes(const std::vector<Commande<DessinWindow>>& entrees, const std:
             AjouteLignes(commande.Entrees, nom + " / ", liste);
             continue;
         }
-        liste += "<tr><td>" + nom + "</td><td>";
+        liste += "<tr id=\"" + AncreAide(commande.Nom) + "\"><td>" + nom + "</td><td>";
         if (const std::string touches = commande.Touches(); !touches.empty())
             liste += "<kbd>" + Glib::Markup::escape_text(touches).raw() + "</kbd>";
         liste += "</td><td>" + Glib::Markup::escape_text(commande.Bulle).raw() + "</td></tr>\n";
@@ -35,6 +35,10 @@ std::string ListeCommandes() {
 }
 
 }  // namespace
+
+std::string AncreAide(const std::string& action) {
+    return "commande-" + action;
+}
 
 std::string AvecListeCommandes(const std::string& page) {
     const std::size_t debut = page.find(Debut), fin = page.find(Fin);

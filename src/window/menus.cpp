@@ -78,6 +78,11 @@ void DessinWindow::ConstruitMenus() {
     BoiteMenu.pack_start(*outils, Gtk::PACK_SHRINK);
 }
 
+void DessinWindow::Choisit(const std::string& action) {
+    for (const Glib::RefPtr<Gtk::ActionGroup>& groupe : GestionnaireUI->get_action_groups())
+        if (const auto trouvee = groupe->get_action(action)) return trouvee->activate();
+}
+
 void DessinWindow::AjouteComplements() {
     if (TableComplements().empty()) return;
     GestionnaireUI->insert_action_group(CreeActions("Complements", TableComplements(), *this), 1);

@@ -20,7 +20,7 @@ Bande BandeDe(const EltGeo& elt);
 /// this class knows what it painted: it can take it away again to the pixel.
 class Bandes {
   public:
-    enum Place { Poignees, Outil, Repere, NombrePlaces };
+    enum Place { Poignees, Outil, Reference, Repere, NombrePlaces };
 
     /// Changes what one place shows, at once on the window unless it is to be repainted whole.
     void Montre(Place place, Bande bande);

@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr double RayonRepere = 4.0;  ///< Pixels, at every zoom.
+// Pixels, at every zoom.
+constexpr double RayonRepere = 4.0;
+constexpr double RayonReference = 6.0;
 
 Bande BandeRepere(const PointVek& p) {
     return [p](Trace& trace) {
@@ -19,6 +21,18 @@ Bande BandeRepere(const PointVek& p) {
         rouge.Couleur = Gdk::Color("red");
         trace.AppliqueTrait(rouge, Trace::Ligne);
         trace.Arc({vue::VersEcran(p), RayonRepere, 0.0, DeuxPi}, true);
+    };
+}
+
+Bande BandeReference(const PointVek& p) {
+    return [p](Trace& trace) {
+        Trait bleu;
+        bleu.Couleur = Gdk::Color("blue");
+        trace.AppliqueTrait(bleu, Trace::Ligne);
+        const PointVek centre = vue::VersEcran(p);
+        trace.Croix(centre, RayonReference);
+        trace.Rectangle(centre - PointVek(RayonReference, RayonReference), 2.0 * RayonReference,
+                        2.0 * RayonReference, false);
     };
 }
 
@@ -79,6 +93,10 @@ PointAccroche Pointeur::PositionClic(const PointVek& pixel, bool avecRepere) con
 std::optional<PointAccroche> Pointeur::Cible(bool avecRepere) const {
     if (!Pixel) return std::nullopt;
     return PositionClic(*Pixel, avecRepere);
+}
+
+void Pointeur::MontreReference(bool montre) {
+    Vue.Dessus.Montre(Bandes::Reference, montre ? BandeReference(Reference) : Bande());
 }
 
 void Pointeur::Bascule(bool OptionsAccrochage::*option) {

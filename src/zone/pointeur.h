@@ -41,6 +41,9 @@ class Pointeur {
     /// The same where the pointer is; none before it came.
     std::optional<PointAccroche> Cible(bool avecRepere) const;
 
+    /// Shows a mark at the reference point, or hides it.
+    void MontreReference(bool montre);
+
     /// Toggles one of the snap options.
     void Bascule(bool OptionsAccrochage::*option);
 
