@@ -185,13 +185,13 @@ void LigneSaisie::ValideMot(const Glib::ustring& texte) {
     Glib::ustring mot = texte;
     const bool aide = DemandeAide(texte, mot);
     const auto commandes = CommandesPour(mot);
-    if (!(aide && mot.empty())) {
-        if (commandes.empty()) return Refuse("Aucune commande ne commence ainsi.");
-        if (commandes.size() > 1) return Refuse("Plusieurs commandes commencent ainsi.");
-    }
+    const MotCommande* const voulue = CommandeVoulue(commandes);
+    if (!voulue && !(aide && mot.empty()))
+        return Refuse(commandes.empty() ? "Aucune commande ne commence ainsi."
+                                        : "Plusieurs commandes commencent ainsi.");
     Passees.push_back(texte);
     Ferme();
-    const std::string action = commandes.empty() ? "" : commandes.front()->Action;
+    const std::string action = voulue ? voulue->Action : "";
     (aide ? Aides : Commandes).emit(action);
 }
 

@@ -55,3 +55,19 @@ std::vector<const MotCommande*> CommandesPour(const Glib::ustring& debut) {
     }
     return entiers.empty() ? commencent : entiers;
 }
+
+const MotCommande* CommandeVoulue(const std::vector<const MotCommande*>& commandes) {
+    if (commandes.empty()) return nullptr;
+    const auto courte = std::min_element(commandes.begin(), commandes.end(),
+                                         [](const MotCommande* a, const MotCommande* b) {
+                                             return a->Cles[0].size() < b->Cles[0].size();
+                                         });
+    const std::string& cle = (*courte)->Cles[0];
+    const bool seule = std::all_of(
+        commandes.begin(), commandes.end(),
+        [&](const MotCommande* autre) { return autre->Cles[0].compare(0, cle.size(), cle) == 0; });
+    const auto pareilles =
+        std::count_if(commandes.begin(), commandes.end(),
+                      [&](const MotCommande* autre) { return autre->Cles[0] == cle; });
+    return seule && pareilles == 1 ? *courte : nullptr;
+}

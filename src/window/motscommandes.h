@@ -22,3 +22,7 @@ std::string EnCle(const Glib::ustring& texte);
 /// Those that a beginning of a word can mean: the ones of exactly that word alone where there are
 /// any.
 std::vector<const MotCommande*> CommandesPour(const Glib::ustring& debut);
+
+/// The one of those that is meant: the only one, or the one whose whole word all the others begin
+/// with; null where it cannot be told.
+const MotCommande* CommandeVoulue(const std::vector<const MotCommande*>& commandes);
