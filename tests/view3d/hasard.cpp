@@ -48,14 +48,12 @@ class Utilisateur {
     }
 
     void Ajoute(const PointVek& p) {
-        const auto genre = static_cast<Forme::Genre>(Des.Entier(3));
-        const Forme corps{genre, p, 20.0, 15.0, Des.Reel(-30.0, 30.0), 1 + Des.Entier(6)};
-        Solide solide{corps, {}};
+        const auto genre = static_cast<Forme::Genre>(Des.Entier(5));
+        EltGeo* corps = Pose({genre, p, 20.0, 15.0, Des.Reel(-30.0, 30.0), 1 + Des.Entier(6)});
         for (int i = Des.Entier(4); i > 0; --i)
-            solide.Enleves.push_back({{Des.Entier(2) ? Forme::Pave : Forme::Cylindre,
-                                       p + Des.Point(15.0), 5.0, 4.0, Des.Reel(-40.0, 40.0), 2},
-                                      Des.Entier(2) == 0});
-        Lieu.Ajoute(solide);
+            Pose({static_cast<Forme::Genre>(Des.Entier(5)), p + Des.Point(15.0), 5.0, 4.0,
+                  Des.Reel(-40.0, 40.0), 2},
+                 Des.Entier(2) ? Role::Trou : Role::Poche, corps);
     }
 
     /// Answers whatever dialog is open.
@@ -77,7 +75,7 @@ class Utilisateur {
 TEST(Hasard3D, RienNeCasse) {
     Banc3D banc;
     Utilisateur utilisateur(banc);
-    for (int i = 0; i < 400; ++i)
+    for (int i = 0; i < 200; ++i)
         utilisateur.Agit();
     banc.Frappe(GDK_Escape);
     banc.Frappe(GDK_f);

@@ -1,18 +1,21 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "elements/pointvek.h"
 
-// An independent answer to what the 3D view shows: one ray a pixel, cut with convex bodies.
+// An independent answer to what the 3D view shows: one ray a pixel, cut with convex bodies that
+// light 0 falls on as it does at the start.
 
 /// A body in its own axes: a box of half sides A and B, a cylinder of radius A, both from z = 0 to
 /// H, or a ball of radius A. Turned by Alpha, Beta, Gamma degrees about Z, Y, X, X first.
 struct Forme {
-    enum Genre { Pave, Cylindre, Boule } Quoi;
+    /// Two of the boxes are profiles drawn clockwise, and the other way round.
+    enum Genre { Pave, Eleve, Retour, Cylindre, Boule } Quoi;
     PointVek Position;
     double A, B, H;
-    int Couleur;  ///< 1 to 6: which of red (1), green (2), blue (4) it is made of.
+    int Couleur;  ///< 1 to 7: which of red (1), green (2), blue (4) it is made of.
     double Alpha = 0.0;
     double Beta = 0.0;
     double Gamma = 0.0;
@@ -25,7 +28,7 @@ struct Creux {
 
 struct Solide {
     Forme Corps;
-    std::vector<Creux> Enleves;
+    std::vector<Creux> Enleves = {};
     std::vector<Forme> Enveloppes = {};  ///< Balls that it lies inside.
 
     /// Seen as the passes of the view leave it, pixel by pixel, and not as it is.
@@ -38,15 +41,16 @@ struct Solide {
 struct Vue {
     PointVek Translation;
     double Alpha, Beta, Gamma;
+
+    /// Moves the scene by v, given in the axes of the view.
+    void Avance(const PointVek& v);
 };
 
-/// The translation that brings the origin to that distance before the eye.
-PointVek TranslationRecul(const Vue& vue, double distance);
-
-/// The first surface that the ray of a pixel meets.
+/// What a pixel shows.
 struct Touche {
-    int Couleur = 0;          ///< 0 for none.
-    double Profondeur = 1.0;  ///< As the depth buffer tells it.
+    double Canaux[3] = {0.0, 25.5, 25.5};  ///< Red, green, blue up to 255; at first the background.
+    bool Rien = true;
+    double Jeu = 2.0;  ///< How far a channel may be off: less on flat faces than on round ones.
 };
 
 /// The pixel at column x and row y from below, of a square picture of that side.
