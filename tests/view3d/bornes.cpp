@@ -13,6 +13,7 @@
 #include "elements/angles.h"
 #include "model/eltbdd.h"
 #include "scene.h"
+#include "solids/ecrit.h"
 #include "solids/eltimage3d.h"
 #include "solids/eltpave.h"
 #include "solids/eltprofilboarond.h"

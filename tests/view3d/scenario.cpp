@@ -10,14 +10,11 @@
 
 #include "commun/record.h"
 #include "model/eltbdd.h"
+#include "solids/ecrit.h"
 #include "solids/elt3d.h"
 #include "solids/eltpave.h"
 
 namespace {
-
-std::istream& operator>>(std::istream& mots, PointVek& p) {
-    return mots >> p.x >> p.y >> p.z;
-}
 
 Forme LitForme(std::istream& mots) {
     static const char* const genres[] = {"pave", "eleve", "retour", "cylindre", "boule"};
@@ -33,34 +30,19 @@ Forme LitForme(std::istream& mots) {
     return forme;
 }
 
-/// Type, colour, then the record behind the colour, with bars between its lines.
-std::string LitRecord(std::istream& mots) {
-    int type = 0, couleur = 0;
-    std::string suite;
-    std::getline(mots >> type >> couleur >> std::ws, suite);
-    for (char& lettre : suite)
-        if (lettre == '|') lettre = '\n';
-    // Textures lie in the home that the tests have.
-    const std::size_t ici = suite.find('~');
-    if (ici != std::string::npos) suite.replace(ici, 1, g_get_home_dir());
-    return Entete(type, couleur) + suite + '\n';
-}
-
-/// Numbers with three decimals at most.
-std::string Dit(std::initializer_list<double> nombres) {
-    std::ostringstream texte;
-    for (const double nombre : nombres)
-        texte << (texte.tellp() > 0 ? " " : "") << std::round(nombre * 1e3) / 1e3 + 0.0;
-    return texte.str();
-}
-
-std::string Dit(const PointVek& p) {
-    return Dit({p.x, p.y, p.z});
-}
-
-std::string ApresBlancs(const std::string& texte) {
-    const std::size_t debut = texte.find_first_not_of(' ');
-    return debut == std::string::npos ? "" : texte.substr(debut);
+/// How many pixels differ by more than rounding.
+int Differents(const Capture& une, const Capture& autre) {
+    int nombre = 0;
+    for (int y = 0; y < une.Image->get_height(); ++y)
+        for (int x = 0; x < une.Image->get_width(); ++x) {
+            const auto a = static_cast<int>(une.Pixel(x, y));
+            const auto b = static_cast<int>(autre.Pixel(x, y));
+            const auto ecart = [a, b](int rang) {
+                return std::abs((a >> rang & 255) - (b >> rang & 255)) > 2;
+            };
+            nombre += ecart(0) || ecart(8) || ecart(16);
+        }
+    return nombre;
 }
 
 }  // namespace
@@ -87,10 +69,9 @@ Scenario::Scenario(const CasEcrit& cas) : Cas(cas), Banc(cas.Cote) {
 }
 
 void Scenario::Joue() {
-    for (const std::string& ligne : Cas.Lignes) {
-        const std::size_t egal = ligne.find(" =");
-        Attendu = egal == std::string::npos ? "" : ApresBlancs(ligne.substr(egal + 2));
-        EXPECT_EQ(Fait(ligne.substr(0, egal)), Attendu) << Cas.Nom << ": " << ligne;
+    for (std::string ligne : Cas.Lignes) {
+        Attendu = Attente(ligne);
+        EXPECT_EQ(Fait(ligne), Attendu) << Cas.Nom << ": " << ligne;
     }
 }
 
@@ -187,6 +168,8 @@ void Scenario::ApprendLesGestes() {
         mots >> reponse;
         RepondDialogue(reponse == "oui" ? Gtk::RESPONSE_OK : Gtk::RESPONSE_CANCEL);
     });
+    apprend("montre", [this](Mots&) { Banc.Fenetre.show(); });
+    apprend("garde", [this](Mots&) { Gardee = std::make_unique<Capture>(Banc.Image()); });
     apprend("annule", [](Mots&) { BddCourante.Annule(); });
     apprend("vide", [](Mots&) { BddCourante.Vide(); });
 }
@@ -220,6 +203,13 @@ void Scenario::ApprendLesQuestions() {
         return PourChaque(mots, [&](const PointVek& p) {
             return std::string(EstBlanc(image, Pixel(p)) ? "1" : "0");
         });
+    };
+    // But for rounding, and some pixels at edges.
+    Table["pareil"] = [this](Mots&) -> std::string {
+        return Differents(*Gardee, Banc.Image()) < 40 ? "oui" : "non";
+    };
+    Table["visible"] = [this](Mots&) -> std::string {
+        return Banc.Fenetre.get_visible() ? "oui" : "non";
     };
     Table["couleur"] = [this](Mots& mots) { return Couleur(mots); };
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -60,7 +61,8 @@ class Scenario {
     Banc3D Banc;
     std::vector<Solide> Scene;  ///< What the rays meet.
     Vue Oeil{{0.0, 0.0, -300.0}, 0.0, 0.0, 0.0};
-    EltGeo* Elt = nullptr;  ///< The last one that is no child.
-    std::string Attendu;    ///< Behind the sign of equality.
+    EltGeo* Elt = nullptr;            ///< The last one that is no child.
+    std::string Attendu;              ///< Behind the sign of equality.
+    std::unique_ptr<Capture> Gardee;  ///< The picture to compare with.
     std::map<std::string, std::function<std::string(Mots&)>> Table;
 };

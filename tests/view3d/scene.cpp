@@ -7,8 +7,7 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "elements/lecteur.h"
-#include "model/registre.h"
+#include "solids/ecrit.h"
 
 Banc3D::Banc3D(int cote) : Main3D(Fenetre3D) {
     BddCourante.Vide();
@@ -45,22 +44,9 @@ Vue Banc3D::Regarde(int alpha, int beta, int gamma) {
     return vue;
 }
 
-std::string Entete(int type, int couleur) {
-    std::string entete = std::to_string(type) + " 1 0\n#";
-    for (int canal = 0; canal < 3; ++canal)
-        entete += couleur >> canal & 1 ? "ffff" : "0000";
-    return entete + "\n#ffffffffffff\n 0 1 0 0 1 0  0\n";
-}
-
 EltGeo* PoseRecord(const std::string& record, EltGeo* porteur) {
-    Lecteur entree(record);
-    int type = 0;
-    entree >> type;
-    auto elt = CreeElement(type);
-    elt->Charge(entree);
-    EXPECT_FALSE(entree.Echec()) << record;
-    if (!porteur) return BddCourante.Ajoute(std::move(elt));
-    EltGeo* const enfant = BddCourante.AjouteFin(std::move(elt));
+    if (!porteur) return BddCourante.Ajoute(EltDe(record));
+    EltGeo* const enfant = BddCourante.AjouteFin(EltDe(record));
     porteur->AjouteFils(enfant);
     return enfant;
 }

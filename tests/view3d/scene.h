@@ -34,9 +34,6 @@ EltGeo* Pose(const Forme& forme, Role role = Role::Corps, EltGeo* porteur = null
 /// The same with an element that a file would hold so.
 EltGeo* PoseRecord(const std::string& record, EltGeo* porteur = nullptr);
 
-/// What a file holds of an element before its position. couleur: as of a form.
-std::string Entete(int type, int couleur);
-
 /// Which of red (1), green (2) and blue (4) show in a colour, whatever the light; 0 for the
 /// background, 7 for what is grey.
 int Teinte(unsigned couleur);
