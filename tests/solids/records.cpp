@@ -227,10 +227,8 @@ TEST(FichierSolides, ChangeEtAnnule) {
         }
     }
     BddCourante.Vide();
-    for (const char* record :
-         {"21 1 0 0 0|5 0 6.28319|0 0 0|10 1 1 1 1 1 0 0 50||-1",
-          "21 1 0 0 0|5 0 6.28319|0 0 0|10 1 1 1 1 1 0 0 50||nan",
-          "32 1 0 0 0|0 0 0|10 1 1 1 1 1 0 0 50||0", "32 1 0 0 0|0 0 0|10 1 1 1 1 1 0 0 50||nan"}) {
+    for (const char* record : {"21 1 0 0 0|5 0 6.28319|0 0 0|10 1 1 1 1 1 0 0 50||-1",
+                               "32 1 0 0 0|0 0 0|10 1 1 1 1 1 0 0 50||0"}) {
         std::istringstream mots(record);
         EXPECT_FALSE(EltDe(LitRecord(mots))->EstValide()) << record;
     }
