@@ -63,6 +63,12 @@ inline std::istream& operator>>(std::istream& mots, PointVek& p) {
     return mots >> p.x >> p.y >> p.z;
 }
 
+inline PointVek LitPoint(std::istream& mots) {
+    PointVek p;
+    mots >> p;
+    return p;
+}
+
 /// What stands behind the sign of equality of a line; ligne is cut before it.
 inline std::string Attente(std::string& ligne) {
     const std::size_t egal = ligne.find(" =");

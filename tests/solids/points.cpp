@@ -9,8 +9,6 @@
 
 #include "commun/hasard.h"
 #include "ecrit.h"
-#include "elements/angles.h"
-#include "elements/distances.h"
 #include "solids/chaine.h"
 #include "solids/elt3d.h"
 #include "solids/eltpercage.h"
@@ -19,10 +17,12 @@
 
 namespace {
 
-PointVek Point(std::istream& mots) {
-    PointVek p;
-    mots >> p;
-    return p;
+std::string DitPoints(const std::vector<SommetProfil>& points) {
+    if (points.size() > 12) return ", " + std::to_string(points.size()) + " points";
+    std::string texte;
+    for (const PointVek& p : points)
+        texte += ", " + Dit(p);
+    return texte;
 }
 
 /// The element that a line tells of, and what the next ones ask of it.
@@ -44,19 +44,19 @@ class Questions {
     std::unique_ptr<EltGeo> Elt;
     const std::map<std::string, std::function<std::string(Mots&)>> Table = {
         {"elt", [this](Mots& mots) { return Elt = EltDe(LitRecord(mots)), std::string(); }},
-        {"distance", [this](Mots& mots) { return Dit({Elt->Distance3D(Point(mots))}); }},
-        {"proche", [this](Mots& mots) { return Dit(Elt->PointProche3D(Point(mots))); }},
-        {"monde", [this](Mots& mots) { return Dit(Solide().VersMonde(Point(mots))); }},
-        {"local", [this](Mots& mots) { return Dit(Solide().VersLocal(Point(mots))); }},
+        {"distance", [this](Mots& mots) { return Dit({Elt->Distance3D(LitPoint(mots))}); }},
+        {"proche", [this](Mots& mots) { return Dit(Elt->PointProche3D(LitPoint(mots))); }},
+        {"monde", [this](Mots& mots) { return Dit(Solide().VersMonde(LitPoint(mots))); }},
+        {"local", [this](Mots& mots) { return Dit(Solide().VersLocal(LitPoint(mots))); }},
         {"axe", [this](Mots&) { return Dit(Solide().PointAxe()); }},
         {"prend",
          [this](Mots& mots) {
-             Elt->DebutDeforme3D(Point(mots));
+             Elt->DebutDeforme3D(LitPoint(mots));
              return std::to_string(PoigneeCourante);
          }},
         {"tire",
          [this](Mots& mots) {
-             Elt->Deforme3D(Point(mots));
+             Elt->Deforme3D(LitPoint(mots));
              return Dit(Elt->Position);
          }},
         // Steps asked for; how many are kept, and how many pieces these are, without rings and
@@ -67,12 +67,46 @@ class Questions {
              const int f = Solide().Facettes({});
              return Dit({1.0 * f, Solide().Pieces(f, false), Solide().Pieces(f, true)});
          }},
-        {"pris3d", [this](Mots&) { return std::string(Elt->GetElt3d() ? "solide" : "position"); }}};
+        {"pris3d", [this](Mots&) { return std::string(Elt->GetElt3d() ? "solide" : "position"); }},
+        // The numbers asked for, then the lengths; the numbers kept, and the points.
+        {"grille",
+         [this](Mots& mots) {
+             auto& surface = dynamic_cast<EltProfilSurface&>(*Elt);
+             int x = 0, y = 0;
+             double longueur = 0.0, hauteur = 0.0;
+             mots >> x >> y >> longueur >> hauteur;
+             surface.SetNbX(x);
+             surface.SetNbY(y);
+             surface.Grille(longueur, hauteur);
+             return Dit({1.0 * surface.nbX, 1.0 * surface.nbY}) + DitPoints(surface.Sommets);
+         }},
+        // Arcs in that many steps; the end of each piece, with both its angles where it is one.
+        {"chaine",
+         [this](Mots& mots) {
+             int pas = 0;
+             mots >> pas;
+             std::string texte;
+             for (const Troncon& t : Chaine(dynamic_cast<EltProfil&>(*Elt), pas))
+                 texte +=
+                     ", " + Dit(t.Fin) + (t.SurArc ? " R " + Dit({t.AngleDebut, t.AngleFin}) : "");
+             return texte;
+         }},
+        // On which side of the way the surface lies, and what it sweeps about y.
+        {"cote",
+         [this](Mots&) {
+             const auto& profil = dynamic_cast<EltProfil&>(*Elt);
+             return std::string(EstAntihoraire(profil) ? "gauche " : "droite ") +
+                    (EstAntihoraireAutourDeY(profil) ? "gauche" : "droite");
+         }},
+        {"convexe", [](Mots& mots) {
+             std::vector<PointVek> points;
+             for (PointVek p; mots >> p; mots.ignore(1, ','))
+                 points.push_back(p);
+             return std::string(EstConvexe(points, true)    ? "gauche"
+                                : EstConvexe(points, false) ? "droite"
+                                                            : "non");
+         }}};
 };
-
-void Proche(const PointVek& p, const PointVek& attendu) {
-    EXPECT_NEAR(Distance3D(p, attendu), 0.0, 1e-9) << p.x << ' ' << p.y << ' ' << p.z;
-}
 
 }  // namespace
 
@@ -102,91 +136,6 @@ TEST(Solides, UnClicDonneLesDeuxRayons) {
     percage.Transforme(fois3);
     EXPECT_EQ(percage.Rayon, 15.0);
     EXPECT_EQ(percage.rayonHaut, 6.0);
-}
-
-TEST(Solides, LaGrilleResteUnPasEnDeca) {
-    EltProfilSurface surface;
-    for (const int nombre : {3, 2, 0, -5}) {
-        surface.SetNbX(nombre);
-        surface.SetNbY(nombre + 1);
-    }
-    ASSERT_EQ(surface.nbX, 3);
-    ASSERT_EQ(surface.nbY, 3);
-    surface.SetNbY(4);
-    surface.Grille(1, 1);
-    surface.Grille(30, 8);
-    std::string points;
-    for (const PointVek& p : surface.Sommets)
-        points += Dit(p) + ", ";
-    EXPECT_EQ(points,
-              "0 0 0, 0 2 0, 0 4 0, 0 6 0, 10 0 0, 10 2 0, 10 4 0, 10 6 0, "
-              "20 0 0, 20 2 0, 20 4 0, 20 6 0, ");
-    surface.SetNbX(1000);
-    surface.SetNbY(100);
-    surface.Grille(1, 1);
-    EXPECT_EQ(surface.Sommets.size(), 100000u);
-    surface.SetNbX(2000000000);
-    surface.SetNbY(2000000000);
-    surface.Grille(1, 1);
-    EXPECT_EQ(surface.Sommets.size(), 0u);
-}
-
-TEST(Chaine, UnArcFinitSurSonSommet) {
-    const SommetProfil sommet(PointVek(0, 10, 3), -10);
-    const auto troncons = Troncons({10, 0, 1}, sommet, 2);
-    ASSERT_EQ(troncons.size(), 2u);
-    const double k = 10 * std::sqrt(0.5);
-    Proche(troncons[0].Debut, {10, 0, 1});
-    Proche(troncons[0].Fin, {k, k, 3});
-    Proche(troncons[1].Debut, {k, k, 3});
-    EXPECT_EQ(Distance3D(troncons[1].Fin, sommet), 0.0);
-    EXPECT_NEAR(troncons[0].AngleDebut, 0.0, 1e-12);
-    EXPECT_NEAR(troncons[0].AngleFin, Pi / 4, 1e-12);
-    EXPECT_NEAR(troncons[1].AngleDebut, Pi / 4, 1e-12);
-    EXPECT_NEAR(troncons[1].AngleFin, Pi / 2, 1e-12);
-    EXPECT_TRUE(Troncons({10, 0}, sommet, 0).empty());
-    // A radius that does not reach leaves a straight link.
-    EXPECT_FALSE(Troncons({100, 0}, sommet, 5).front().SurArc);
-    EltProfil profil;
-    profil.Sommets = {SommetProfil(PointVek(10, 0)), sommet, SommetProfil(PointVek(5, 20)),
-                      SommetProfil(PointVek(5, 40))};
-    const auto chaine = Chaine(profil, 3);
-    ASSERT_EQ(chaine.size(), 5u);
-    Proche(chaine[3].Debut, {0, 10, 3});
-    Proche(chaine[4].Fin, {5, 40});
-}
-
-TEST(Chaine, DeQuelCoteEstLaSurface) {
-    EltProfil profil;
-    for (const PointVek& p : {PointVek(10, 0), PointVek(20, 0), PointVek(20, 10)})
-        profil.Sommets.emplace_back(p);
-    EXPECT_TRUE(EstAntihoraire(profil));
-    EXPECT_TRUE(EstAntihoraireAutourDeY(profil));
-    for (SommetProfil& sommet : profil.Sommets)
-        sommet.x -= 40;
-    EXPECT_TRUE(EstAntihoraire(profil));
-    EXPECT_FALSE(EstAntihoraireAutourDeY(profil));
-    // Half a disc, whose chord bounds nothing: the arc alone tells.
-    for (const double rayon : {10.0, -10.0}) {
-        profil.Sommets = {SommetProfil(PointVek(0, 10)), SommetProfil(PointVek(0, -10), rayon)};
-        EXPECT_EQ(EstAntihoraire(profil), rayon < 0.0);
-        // Its surface is at x > 0 for the one and at x < 0 for the other.
-        EXPECT_FALSE(EstAntihoraireAutourDeY(profil));
-    }
-}
-
-TEST(Chaine, Convexite) {
-    std::vector<PointVek> points = {{0, 0}, {0, 10}, {10, 10, 30}, {10, 0}};
-    EXPECT_TRUE(EstConvexe(points, false));
-    EXPECT_FALSE(EstConvexe(points, true));
-    points.insert(points.begin() + 2, {{5, 10}, {5, 10}});
-    EXPECT_TRUE(EstConvexe(points, false)) << "a vertex along an edge, and the same again";
-    points[2].y = 9.9;
-    EXPECT_FALSE(EstConvexe(points, false));
-    std::vector<PointVek> etoile;
-    for (int i = 0; i < 5; ++i)
-        etoile.push_back(PointPolaire({}, 10, i * 2 * DeuxPi / 5));
-    EXPECT_FALSE(EstConvexe(etoile, true)) << "round twice";
 }
 
 TEST(Chaine, CeQuiSeCroiseTropSouvent) {

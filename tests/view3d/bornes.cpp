@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <sstream>
+
 #include "commun/hasard.h"
 #include "commun/record.h"
 #include "elements/angles.h"
@@ -16,10 +18,7 @@
 #include "solids/ecrit.h"
 #include "solids/eltimage3d.h"
 #include "solids/eltpave.h"
-#include "solids/eltprofilboarond.h"
 #include "solids/eltprofilsurface.h"
-#include "solids/eltprofiltourne.h"
-#include "solids/eltprofiltuberond.h"
 #include "solids/eltsphere.h"
 #include "view3d/scenebornee.h"
 
@@ -62,10 +61,6 @@ int MontreAvec(Banc3D& banc, const std::string& texture) {
     return Montre(banc);
 }
 
-double Ensemble(const SceneBornee& scene, double pieces, int nombre) {
-    return nombre * std::min(pieces, scene.PiecesMax());
-}
-
 }  // namespace
 
 TEST(Listes, CeQuiNeChangePasNEstPasRefait) {
@@ -103,23 +98,6 @@ TEST(Listes, LaPremiereImageEstCelleDApres) {
     EXPECT_EQ(banc.Image().Ecart(premiere), 0);
 }
 
-TEST(Textures, RangeesDroites) {
-    // Rows of 15 bytes that stand 16 apart; the face shows the first one at its right edge.
-    std::vector<int> teintes;
-    for (int y = 0; y < 4; ++y)
-        teintes.insert(teintes.end(), {1, 2, 4, 3, 6});
-    PaveCompte pave;
-    pave.texture = ImageDeTeintes("bandes.png", 5, teintes);
-    pave.repetition = false;
-    Banc3D banc;
-    BddCourante.Ajoute(pave);
-    banc.Bouge(5.0, 5.0);
-    // 40 units at 290 from the eye are 100 pixels.
-    for (const int y : {255, 280, 320, 345})
-        for (int bande = 0; bande < 5; ++bande)
-            EXPECT_EQ(Montre(banc, 340 - 20 * bande, y), teintes[static_cast<std::size_t>(bande)]);
-}
-
 TEST(Textures, DUnFichierOuBlanc) {
     const std::string rouge = ImageDeTeintes("rouge.png", 1, {1});
     const std::string dossier = Glib::path_get_dirname(rouge), tube = dossier + "/tube";
@@ -138,38 +116,38 @@ TEST(Textures, DUnFichierOuBlanc) {
 
 TEST(Bornes, UneSceneTropLourdeEstMoinsFine) {
     DC3D dc;
-    BddCourante.Vide();
     EltSphere fine;
     fine.Rayon = 10.0;
     fine.facetisation = 400;
-    const double cout = fine.Pieces(400.0, false);
-    for (int i = 0; i < 20; ++i)
-        BddCourante.AjouteFin(fine.Clone());
+    const auto ajoute = [](BDDGeoBase& bdd, const EltGeo& elt, int nombre) {
+        for (; nombre > 0; --nombre)
+            bdd.AjouteFin(elt.Clone());
+    };
+    const auto ensemble = [&](int nombre) {
+        return nombre * std::min(400.0 * 400.0, SceneBornee(BddCourante, dc).PiecesMax());
+    };
+    BddCourante.Vide();
+    ajoute(BddCourante, fine, 20);
     EXPECT_EQ(SceneBornee(BddCourante, dc).PiecesMax(), Grain().PiecesMax);
-    for (int i = 20; i < 600; ++i)
-        BddCourante.AjouteFin(fine.Clone());
-    EXPECT_LE(Ensemble(SceneBornee(BddCourante, dc), cout, 600), 4e6);
-    EXPECT_GE(Ensemble(SceneBornee(BddCourante, dc), cout, 600), 1e6);
+    ajoute(BddCourante, fine, 580);
+    EXPECT_LE(ensemble(600), 4e6);
+    EXPECT_GE(ensemble(600), 1e6);
     // Many that cost little do not make one that costs more any coarser.
     BddCourante.Vide();
-    for (int i = 0; i < 50000; ++i)
-        BddCourante.AjouteFin(EltPave().Clone());
-    BddCourante.AjouteFin(fine.Clone());
+    ajoute(BddCourante, EltPave(), 50000);
+    ajoute(BddCourante, fine, 1);
     EXPECT_EQ(SceneBornee(BddCourante, dc).PiecesMax(), Grain().PiecesMax);
     // Through images the same group counts each time it is shown, as long as it is.
     BddCourante.Vide();
     auto groupe = std::make_unique<EltBDD>();
     groupe->SetIdentificateur("billes");
-    for (int i = 0; i < 100; ++i)
-        groupe->Contenu.AjouteFin(fine.Clone());
+    ajoute(groupe->Contenu, fine, 100);
     BddCourante.AjouteFin(std::move(groupe));
     EltImage3d image;
     image.SetIdentificateur("billes");
-    for (int i = 0; i < 2000; ++i)
-        BddCourante.AjouteFin(image.Clone());
-    const SceneBornee scene(BddCourante, dc);
-    EXPECT_LE(Ensemble(scene, cout, 100000), 6.4e6 + 1.0);
-    EXPECT_EQ(scene.Elements().size(), 1000u) << "the images that fit";
+    ajoute(BddCourante, image, 2000);
+    EXPECT_LE(ensemble(100000), 6.4e6 + 1.0);
+    EXPECT_EQ(SceneBornee(BddCourante, dc).Elements().size(), 1000u) << "the images that fit";
     BddCourante.Vide();
 }
 
@@ -179,51 +157,46 @@ TEST(Bornes, UneSurfaceSeMontreJusquAMillePoints) {
         EltProfilSurface surface;
         surface.SetNbX(25);
         surface.SetNbY(colonnes);
-        surface.Position = {-48, -39};
         surface.Grille(100, 80);
         BddCourante.Vide();
-        BddCourante.Ajoute(surface)->Style.Couleur.set_rgb_p(0.0, 1.0, 0.0);
-        EXPECT_EQ(Montre(banc), colonnes == 40 ? 2 : 0);
+        BddCourante.Ajoute(surface);
+        // Black, but for its shine.
+        EXPECT_EQ(banc.Image().Pixel(320, 280) == 0x1a1a1a, colonnes == 40);
     }
 }
 
 TEST(Bornes, RienNEstTropGrandNiTropPetit) {
     Banc3D banc(200);
     Hasard hasard(3);
-    EltProfilElevation elevation;
-    EltProfilTourne tourne;
-    EltProfil profil;
-    for (int i = 0; i < 1000; ++i) {
-        elevation.Sommets.emplace_back(hasard.Point(50), hasard.Reel(-40, 40));
-        tourne.Sommets.emplace_back(hasard.Point(50), hasard.Reel(-40, 40));
-    }
-    profil.Sommets = elevation.Sommets;
-    EltProfilTubeRond jonc;
-    EltProfilBoaRond boa;
-    EltGeo* chemin = BddCourante.Ajoute(profil);
+    std::ostringstream chaine;
+    chaine << "0 0 0\n1\n1000\n";
+    for (int i = 0; i < 1000; ++i)
+        chaine << hasard.Reel(-50, 50) << ' ' << hasard.Reel(-50, 50) << " 0R"
+               << hasard.Reel(-40, 40) << "  ";
+    chaine << '\n';
+    const auto pose = [](int type, const std::string& suite) {
+        return PoseRecord(Entete(type, 1) + suite);
+    };
+    EltGeo* chemin = pose(TypeProfil, chaine.str());
     for (const int facettes : {0, 3, 1000000000}) {
-        for (Elt3d* solide : std::initializer_list<Elt3d*>{&elevation, &tourne, &jonc, &boa})
-            solide->facetisation = facettes;
-        elevation.gourault = facettes == 3;
-        BddCourante.Ajoute(elevation);
-        BddCourante.Ajoute(tourne);
+        const std::string attributs = std::string("0 0 0\n10 1 1 1 1 1 0 ") +
+                                      (facettes == 3 ? "1 " : "0 ") + std::to_string(facettes) +
+                                      "\n\n";
+        pose(TypeProfilElevation, chaine.str() + attributs);
+        pose(TypeProfilTourne, chaine.str() + attributs);
         // Of its own type, none, or a path; the path is an envelope too.
-        EltGeo* tube = BddCourante.Ajoute(jonc);
+        EltGeo* tube = pose(TypeProfilTubeRond, "0 0 0\n" + attributs + "10\n");
         tube->AjouteFils(facettes == 0 ? tube : chemin);
-        EltGeo* second = BddCourante.Ajoute(boa);
-        second->AjouteFils(chemin);
-        if (facettes != 0) second->AjouteFils(facettes == 3 ? second : chemin);
+        EltGeo* boa = pose(TypeProfilBoaRond, "0 0 0\n" + attributs);
+        boa->AjouteFils(chemin);
+        if (facettes != 0) boa->AjouteFils(facettes == 3 ? boa : chemin);
     }
-    EltProfilSurface surface;
-    surface.nbX = -3;
-    surface.nbY = -4;
-    surface.Sommets.resize(12);
-    BddCourante.Ajoute(surface);
-    EltProfilElevation vide;
-    BddCourante.Ajoute(vide);
-    vide.Sommets.resize(1);
-    vide.gourault = true;
-    BddCourante.Ajoute(vide);
+    const std::string douze =
+        "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 ";
+    const std::string lisse = "\n0 0 0\n10 1 1 1 1 1 0 1 50\n\n";
+    pose(TypeProfilSurface, "0 0 0\n1\n12\n" + douze + lisse + "-3 -4\n");
+    pose(TypeProfilElevation, "0 0 0\n1\n0\n" + lisse);
+    pose(TypeProfilElevation, "0 0 0\n1\n1\n0 0 0 " + lisse);
     banc.Image();
     EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
 }

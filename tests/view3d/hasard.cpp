@@ -30,20 +30,13 @@ class Utilisateur {
   private:
     void ChangeDessin() {
         const PointVek p = Des.Point(80.0);
-        switch (Des.Entier(6)) {
-            case 0:
-            case 1:
-                BddCourante.Annule();
-                break;
-            case 2:
-                BddCourante.Efface(p);
-                break;
-            case 3:
-                if (Des.Entier(20) == 0) BddCourante.Vide();
-                break;
-            default:
-                Ajoute(p);
-        }
+        const int choix = Des.Entier(6);
+        if (choix < 2)
+            BddCourante.Annule();
+        else if (choix == 2)
+            BddCourante.Efface(p);
+        else
+            Ajoute(p);
         if (BddCourante.Elements.Nombre() > 25) BddCourante.Vide();
     }
 

@@ -83,24 +83,25 @@ std::string Scenario::Fait(const std::string& ligne) {
     return fait == Table.end() ? "no word " + mot : fait->second(mots);
 }
 
+void Scenario::Apprend(const char* mot, const std::function<void(Mots&)>& fait) {
+    Table[mot] = [fait](Mots& mots) { return fait(mots), std::string(); };
+}
+
 void Scenario::ApprendLaScene() {
-    const auto apprend = [this](const char* mot, const std::function<void(Mots&)>& fait) {
-        Table[mot] = [fait](Mots& mots) { return fait(mots), std::string(); };
-    };
-    apprend("corps", [this](Mots& mots) { Corps(mots); });
-    apprend("trou", [this](Mots& mots) { Enfant(mots, Role::Trou); });
-    apprend("poche", [this](Mots& mots) { Enfant(mots, Role::Poche); });
-    apprend("enveloppe", [this](Mots& mots) { Enfant(mots, Role::Enveloppe); });
-    apprend("forme", [this](Mots& mots) { Scene.push_back({LitForme(mots)}); });
-    apprend("perce", [this](Mots& mots) {
+    Apprend("corps", [this](Mots& mots) { Corps(mots); });
+    Apprend("trou", [this](Mots& mots) { Enfant(mots, Role::Trou); });
+    Apprend("poche", [this](Mots& mots) { Enfant(mots, Role::Poche); });
+    Apprend("enveloppe", [this](Mots& mots) { Enfant(mots, Role::Enveloppe); });
+    Apprend("forme", [this](Mots& mots) { Scene.push_back({LitForme(mots)}); });
+    Apprend("perce", [this](Mots& mots) {
         Scene.back().Enleves.push_back({LitForme(mots), true});
     });
-    apprend("suite", [this](Mots& mots) { Scene.back().Suite.push_back(LitForme(mots)); });
-    apprend("parpasses", [this](Mots&) { Scene.back().ParPasses = true; });
-    apprend("elt", [this](Mots& mots) { Elt = PoseRecord(LitRecord(mots)); });
-    apprend("fils", [this](Mots& mots) { PoseRecord(LitRecord(mots), Elt); });
-    apprend("groupe", [this](Mots& mots) { Groupe(mots); });
-    apprend("image", [](Mots& mots) {
+    Apprend("suite", [this](Mots& mots) { Scene.back().Suite.push_back(LitForme(mots)); });
+    Apprend("parpasses", [this](Mots&) { Scene.back().ParPasses = true; });
+    Apprend("elt", [this](Mots& mots) { Elt = PoseRecord(LitRecord(mots)); });
+    Apprend("fils", [this](Mots& mots) { PoseRecord(LitRecord(mots), Elt); });
+    Apprend("groupe", [this](Mots& mots) { Groupe(mots); });
+    Apprend("image", [](Mots& mots) {
         std::string nom;
         int largeur = 0;
         std::vector<int> teintes;
@@ -112,28 +113,21 @@ void Scenario::ApprendLaScene() {
 }
 
 void Scenario::ApprendLesGestes() {
-    const auto apprend = [this](const char* mot, const std::function<void(Mots&)>& fait) {
-        Table[mot] = [fait](Mots& mots) { return fait(mots), std::string(); };
-    };
-    apprend("regarde", [this](Mots& mots) {
-        int a = 0, b = 0, c = 0;
-        mots >> a >> b >> c;
-        Oeil = Banc.Regarde(a, b, c);
+    Apprend("regarde", [this](Mots& mots) {
+        const PointVek angles = LitPoint(mots);
+        Oeil = Banc.Regarde(static_cast<int>(angles.x), static_cast<int>(angles.y),
+                            static_cast<int>(angles.z));
     });
-    apprend("vue", [this](Mots& mots) {
+    Apprend("vue", [this](Mots& mots) {
         mots >> Oeil.Alpha >> Oeil.Beta >> Oeil.Gamma;
         Oeil.Translation = {};
         Oeil.Avance({0.0, 0.0, -300.0});
     });
-    apprend("avance", [this](Mots& mots) {
-        PointVek v;
-        mots >> v;
-        Oeil.Avance(v);
-    });
-    apprend("vues", [this](Mots& mots) { Vues(mots); });
-    apprend("accord", [this](Mots&) { Accorde(""); });
-    apprend("frappe", [this](Mots& mots) { Frappe(mots); });
-    apprend("roule", [this](Mots& mots) {
+    Apprend("avance", [this](Mots& mots) { Oeil.Avance(LitPoint(mots)); });
+    Apprend("vues", [this](Mots& mots) { Vues(mots); });
+    Apprend("accord", [this](Mots&) { Accorde(""); });
+    Apprend("frappe", [this](Mots& mots) { Frappe(mots); });
+    Apprend("roule", [this](Mots& mots) {
         std::string sens;
         int fois = 1;
         unsigned etat = 0;
@@ -141,37 +135,36 @@ void Scenario::ApprendLesGestes() {
         for (; fois > 0; --fois)
             Banc.Roule(sens == "haut" ? GDK_SCROLL_UP : GDK_SCROLL_DOWN, etat << 8);
     });
-    apprend("pixel", [this](Mots& mots) {
-        double x = 0.0, y = 0.0;
-        unsigned etat = 0;
-        mots >> x >> y >> etat;
-        Banc.Bouge(x, y, etat << 8);
+    Apprend("pixel", [this](Mots& mots) {
+        const PointVek p = LitPoint(mots);
+        Banc.Bouge(p.x, p.y, static_cast<unsigned>(p.z) << 8);
     });
-    apprend("presse", [this](Mots& mots) {
-        double x = 0.0, y = 0.0;
-        mots >> x >> y;
-        Banc.Clique(x, y);
+    Apprend("presse", [this](Mots& mots) {
+        const PointVek p = LitPoint(mots);
+        Banc.Clique(p.x, p.y);
     });
-    apprend("vise", [this](Mots& mots) {
-        PointVek p;
-        mots >> p;
-        Banc.Bouge(Pixel(p).x, Pixel(p).y);
+    Apprend("vise", [this](Mots& mots) {
+        const PointVek p = Pixel(LitPoint(mots));
+        Banc.Bouge(p.x, p.y);
     });
-    apprend("clique", [this](Mots& mots) { Clique(mots); });
-    apprend("choisit", [this](Mots& mots) {
+    Apprend("clique", [this](Mots& mots) {
+        const PointVek p = Pixel(LitPoint(mots));
+        Banc.Clique(p.x, p.y);
+    });
+    Apprend("choisit", [this](Mots& mots) {
         std::string action;
         mots >> action;
         Banc.Choisit(action);
     });
-    apprend("repond", [](Mots& mots) {
+    Apprend("repond", [](Mots& mots) {
         std::string reponse;
         mots >> reponse;
         RepondDialogue(reponse == "oui" ? Gtk::RESPONSE_OK : Gtk::RESPONSE_CANCEL);
     });
-    apprend("montre", [this](Mots&) { Banc.Fenetre.show(); });
-    apprend("garde", [this](Mots&) { Gardee = std::make_unique<Capture>(Banc.Image()); });
-    apprend("annule", [](Mots&) { BddCourante.Annule(); });
-    apprend("vide", [](Mots&) { BddCourante.Vide(); });
+    Apprend("montre", [this](Mots&) { Banc.Fenetre.show(); });
+    Apprend("garde", [this](Mots&) { Gardee = std::make_unique<Capture>(Banc.Image()); });
+    Apprend("annule", [](Mots&) { BddCourante.Annule(); });
+    Apprend("vide", [](Mots&) { BddCourante.Vide(); });
 }
 
 void Scenario::ApprendLesQuestions() {
@@ -195,14 +188,13 @@ void Scenario::ApprendLesQuestions() {
         const Capture image = Banc.Image();
         return PourChaque(mots, [&](const PointVek& p) {
             return std::to_string(
-                Teinte(image.Pixel(static_cast<int>(Pixel(p).x), static_cast<int>(Pixel(p).y))));
+                Teinte(image.Pixel(static_cast<int>(p.x), static_cast<int>(p.y))));
         });
     };
     Table["fil"] = [this](Mots& mots) {
         const Capture image = Banc.Image();
-        return PourChaque(mots, [&](const PointVek& p) {
-            return std::string(EstBlanc(image, Pixel(p)) ? "1" : "0");
-        });
+        return PourChaque(
+            mots, [&](const PointVek& p) { return std::string(EstBlanc(image, p) ? "1" : "0"); });
     };
     // But for rounding, and some pixels at edges.
     Table["pareil"] = [this](Mots&) -> std::string {
@@ -277,25 +269,17 @@ void Scenario::Frappe(Mots& mots) {
         Banc.Frappe(gdk_keyval_from_name(touche.c_str()), etat);
 }
 
-void Scenario::Clique(Mots& mots) {
-    PointVek p;
-    mots >> p;
-    Banc.Clique(Pixel(p).x, Pixel(p).y);
-}
-
 std::string Scenario::PourChaque(Mots& mots,
                                  const std::function<std::string(const PointVek&)>& dit) {
     std::string reponse;
     for (PointVek p; mots >> p; mots.ignore(1, ','))
-        reponse += (reponse.empty() ? "" : " ") + dit(p);
+        reponse += (reponse.empty() ? "" : " ") + dit(Pixel(p));
     return reponse;
 }
 
 std::string Scenario::Couleur(Mots& mots) {
-    PointVek p;
-    mots >> p;
-    const unsigned vue =
-        Banc.Image().Pixel(static_cast<int>(Pixel(p).x), static_cast<int>(Pixel(p).y));
+    const PointVek p = Pixel(LitPoint(mots));
+    const unsigned vue = Banc.Image().Pixel(static_cast<int>(p.x), static_cast<int>(p.y));
     std::istringstream attendus(Attendu);
     bool juste = true;
     for (int decalage = 16; decalage >= 0; decalage -= 8) {

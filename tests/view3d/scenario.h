@@ -37,6 +37,7 @@ class Scenario {
   private:
     using Mots = std::istream;
 
+    void Apprend(const char* mot, const std::function<void(Mots&)>& fait);
     void ApprendLaScene();
     void ApprendLesGestes();
     void ApprendLesQuestions();
@@ -48,9 +49,10 @@ class Scenario {
     void Accorde(const std::string& suite);
     void Vues(Mots& mots);
     void Frappe(Mots& mots);
-    void Clique(Mots& mots);
 
     PointVek Pixel(const PointVek& p) const { return OuApparait(Oeil, p, Cas.Cote); }
+
+    /// What is said of the pixel of each of the points.
     std::string PourChaque(Mots& mots, const std::function<std::string(const PointVek&)>& dit);
     std::string Couleur(Mots& mots);
 
