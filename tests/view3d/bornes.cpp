@@ -151,11 +151,11 @@ TEST(Bornes, UneSceneTropLourdeEstMoinsFine) {
     BddCourante.Vide();
 }
 
-TEST(Bornes, UneSurfaceSeMontreJusquAMillePoints) {
+TEST(Bornes, UneSurfaceNeSeMontrePasAuDelaDeMillePoints) {
     Banc3D banc;
+    EltProfilSurface surface;
+    surface.SetNbX(25);
     for (const int colonnes : {40, 41}) {
-        EltProfilSurface surface;
-        surface.SetNbX(25);
         surface.SetNbY(colonnes);
         surface.Grille(100, 80);
         BddCourante.Vide();

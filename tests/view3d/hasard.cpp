@@ -71,7 +71,6 @@ TEST(Hasard3D, RienNeCasse) {
     for (int i = 0; i < 200; ++i)
         utilisateur.Agit();
     banc.Frappe(GDK_Escape);
-    banc.Frappe(GDK_f);
     banc.Image();
     for (const EltGeo* elt : BddCourante.Elements)
         EXPECT_TRUE(elt->EstFini());

@@ -8,7 +8,6 @@
 #include <fstream>
 #include <sstream>
 
-#include "commun/record.h"
 #include "model/eltbdd.h"
 #include "solids/ecrit.h"
 #include "solids/elt3d.h"
@@ -183,7 +182,6 @@ void Scenario::ApprendLesQuestions() {
         const auto& pave = static_cast<const EltPave&>(*Elt);
         return Dit(pave.Origine) + ", " + Dit(pave.Extremite);
     };
-    Table["record"] = [this](Mots&) { return DerniereLigne(*Elt); };
     Table["teintes"] = [this](Mots& mots) {
         const Capture image = Banc.Image();
         return PourChaque(mots, [&](const PointVek& p) {
@@ -200,9 +198,7 @@ void Scenario::ApprendLesQuestions() {
     Table["pareil"] = [this](Mots&) -> std::string {
         return Differents(*Gardee, Banc.Image()) < 40 ? "oui" : "non";
     };
-    Table["visible"] = [this](Mots&) -> std::string {
-        return Banc.Fenetre.get_visible() ? "oui" : "non";
-    };
+    Table["visible"] = [this](Mots&) { return std::to_string(Banc.Fenetre.get_visible()); };
     Table["couleur"] = [this](Mots& mots) { return Couleur(mots); };
 }
 

@@ -138,18 +138,6 @@ class Accord {
     double Faux() const { return static_cast<double>(NbFaux) / std::max(NbMontres, 1); }
     double Loin() const { return static_cast<double>(NbLoin) / std::max(NbMontres, 1); }
 
-    void Garde(const std::string& nom) const {
-        Image.Garde(nom);
-        Capture attendue = Image;
-        attendue.Image = Image.Image->copy();
-        for (int i = 0; i < Cote * Cote; ++i)
-            for (int canal = 0; canal < 3; ++canal)
-                attendue.Image->get_pixels()[i / Cote * attendue.Image->get_rowstride() +
-                                             i % Cote * 3 + canal] =
-                    static_cast<guint8>(Rayons[static_cast<std::size_t>(i)].Canaux[canal]);
-        attendue.Garde(nom + "_rayons");
-    }
-
   private:
     bool Convient(int x, int y, unsigned pixel) const {
         const Touche& rayon = Rayons[static_cast<std::size_t>(y * Cote + x)];
@@ -186,7 +174,7 @@ class Accord {
 void ExigeRayons(const std::vector<Solide>& scene, const Vue& vue, const Capture& image,
                  const std::string& nom) {
     const Accord accord(scene, vue, image);
-    if (accord.Faux() > FauxMax || accord.Loin() > LoinMax) accord.Garde(nom);
+    if (accord.Faux() > FauxMax || accord.Loin() > LoinMax) image.Garde(nom);
     EXPECT_LE(accord.Faux(), FauxMax) << nom;
     EXPECT_LE(accord.Loin(), LoinMax) << nom;
 }
