@@ -1,8 +1,6 @@
-// Points and texts, through their tools.
+// Where a text stands, and what a file may hold of it.
 
 #include <gtest/gtest.h>
-#include <gtkmm/entry.h>
-#include <gtkmm/table.h>
 
 #include "commun/banc.h"
 #include "commun/record.h"
@@ -10,7 +8,6 @@
 #include "elements/lecteur.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
-#include "zone/etats.h"
 
 namespace {
 
@@ -22,42 +19,7 @@ std::string Suite(const EltGeo& elt) {
     return texte;
 }
 
-/// Types into the fields of the next dialog, in the order of its labels.
-void RepondChamps(const std::vector<std::string>& saisies, int reponse) {
-    RepondDialogue(reponse, [saisies](Gtk::Dialog& dialogue) {
-        std::vector<Gtk::Entry*> champs;
-        for (Gtk::Widget* enfant : PremierDe<Gtk::Table>(dialogue)->get_children())
-            if (auto* champ = dynamic_cast<Gtk::Entry*>(enfant))
-                champs.insert(champs.begin(), champ);
-        ASSERT_GE(champs.size(), saisies.size());
-        for (std::size_t i = 0; i < saisies.size(); ++i)
-            champs[i]->set_text(saisies[i]);
-    });
-}
-
 }  // namespace
-
-TEST(Texte, SePlaceCommeSaBandeLeMontre) {
-    Banc banc;
-    const Capture vide = banc.Image();
-    RepondChamps({"Pièce n°1 ø 12", "30", "14"}, Gtk::RESPONSE_OK);
-    banc.Zone.Outils.Entre(ETAT_TEXTE);
-    banc.Souris.BougeA({-40, 80});
-    banc.Souris.BougeA({-60, -20});
-    const Capture bande = banc.Image();
-    EXPECT_GT(bande.Ecart(vide), 300);
-    banc.Souris.ClicA({-60, -20});
-    EXPECT_EQ(banc.Image().Ecart(bande), 0);
-    ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
-    EXPECT_EQ(Suite(*BddCourante.Elements.Premier()), "Pièce n°1 ø 12\n0.523599 14 0\nArial\n");
-
-    // One band after the other, then none: nothing is left.
-    banc.Zone.AnnuleAction();
-    banc.Souris.BougeA({50, 50});
-    banc.Souris.BougeA({-100, 0});
-    banc.Zone.Outils.RazEtat();
-    EXPECT_EQ(banc.Image().Ecart(vide), 0);
-}
 
 TEST(Texte, SonCoinSuitLAngle) {
     // The text runs from its anchor along its angle, its base side on the anchor: seen by the box
@@ -90,15 +52,6 @@ TEST(Texte, SonCoinSuitLAngle) {
     }
 }
 
-TEST(Texte, AnnulerNeChangeRienEtLeTextePlace) {
-    Banc banc;
-    RepondChamps({"Autre", "10", "99"}, Gtk::RESPONSE_CANCEL);
-    banc.Zone.Outils.Entre(ETAT_TEXTE);
-    EXPECT_EQ(banc.Zone.Outils.EtatCourant(), ETAT_TEXTE);
-    banc.Souris.ClicA({0, 0});
-    EXPECT_EQ(Suite(*BddCourante.Elements.Premier()), "Texte\n0 10 0\nArial\n");
-}
-
 TEST(Texte, EnregistrementEtEncodages) {
     EltTxt txt;
     txt.SetTexte("deux\nlignes\tet\r\nplus");
@@ -126,17 +79,4 @@ TEST(Texte, EnregistrementEtEncodages) {
     EXPECT_EQ(lit("\n0 10 0\n\n").Texte, "");
     EXPECT_EQ(lit("coupé").Texte, "coupé");
     EXPECT_EQ(lit("a\nx").Taille, 10.0);
-}
-
-TEST(Point, UneCroixParClic) {
-    Banc banc;
-    banc.Zone.Outils.Entre(ETAT_POINT);
-    banc.Souris.BougeA({20, 30});
-    const Capture bande = banc.Image();
-    banc.Souris.ClicA({20, 30});
-    EXPECT_EQ(banc.Image().Ecart(bande), 0);
-    banc.Souris.ClicA({-20, 30});
-    ASSERT_EQ(BddCourante.Elements.Nombre(), 2);
-    EXPECT_EQ(Record(*BddCourante.Elements.Premier()),
-              "3 1 0\n#000000000000\n#ffffffffffff\n 0 1 0 0 1 0  0\n-20 30 0\n");
 }
