@@ -12,6 +12,7 @@
 #include <map>
 #include <sstream>
 
+#include "exchange/dxf.h"
 #include "exchange/lignes.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
@@ -106,7 +107,7 @@ std::string Couleur(const PointVek& pixel, const Capture& vue) {
 
 using Effet = void (*)(Banc& banc, Mots& mots);
 
-/// The gestures and the commands of menus.
+/// The gestures and the commands of menus. A key that is not taken leaves the words bad.
 const std::map<std::string, Effet> Ordres = {
     {"etat", [](Banc& b, Mots& m) { b.Zone.Outils.Entre(Lu<int>(m)); }},
     {"pose",
@@ -122,8 +123,14 @@ const std::map<std::string, Effet> Ordres = {
          unsigned modificateurs = 0;
          for (; nom == "Ctrl" || nom == "Maj"; nom = Lu<std::string>(m))
              modificateurs |= nom == "Maj" ? GDK_SHIFT_MASK : GDK_CONTROL_MASK;
-         b.Souris.Touche(gdk_keyval_from_name(nom.c_str()), modificateurs);
+         GdkEventKey evenement = {};
+         evenement.keyval = gdk_keyval_from_name(nom.c_str());
+         evenement.state = modificateurs;
+         if (!b.Zone.ToucheEnfoncee(&evenement)) m.setstate(std::ios::badbit);
      }},
+    {"ouvre", [](Banc& b, Mots& m) { b.Zone.OuvreZone(KRVEK_ESSAIS "/" + Suite(m)); }},
+    {"importe", [](Banc& b, Mots& m) { b.Zone.Importe(&ImporteDxf, KRVEK_ESSAIS "/" + Suite(m)); }},
+    {"nouveau", [](Banc& b, Mots&) { b.Zone.Nouveau(); }},
     {"relache", [](Banc& b, Mots&) { b.Zone.ToucheRelachee(); }},
     {"molette",
      [](Banc& b, Mots& m) {
@@ -319,6 +326,7 @@ std::string Seance::Joue(const std::string& ligne) {
     const bool enBande = dessus.Visible(Bandes::Outil);
     const auto avant = enBande ? std::make_shared<Capture>(Table->Image()) : nullptr;
     effet->second(*Table, mots);
+    if (mots.bad()) Reponse = "    not taken\n";
     auto apres = std::make_shared<Capture>(ExigeRepeinte(dessus.Visible(Bandes::Outil)));
     const std::size_t nombre = Dessin.size();
     const std::string dit = Dit();
