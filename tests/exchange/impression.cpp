@@ -1,6 +1,7 @@
 // The sheet on paper: where things come to lie, in which colours, and the PDF.
 
 #include <cairomm/surface.h>
+#include <gio/gio.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -81,6 +82,18 @@ Elt& Pose(std::unique_ptr<Elt> elt) {
 
 void PoseSegment(const PointVek& a, const PointVek& b) {
     Pose(std::make_unique<EltSegment>(a, b, 0));
+}
+
+/// What paints the page of a PDF.
+std::string Page(const std::string& pdf) {
+    const std::size_t debut = pdf.find("stream\n") + 7;
+    char page[4096];
+    gsize lus = 0, ecrits = 0;
+    GZlibDecompressor* zlib = g_zlib_decompressor_new(G_ZLIB_COMPRESSOR_FORMAT_ZLIB);
+    g_converter_convert(G_CONVERTER(zlib), pdf.data() + debut, pdf.size() - debut, page,
+                        sizeof page, G_CONVERTER_NO_FLAGS, &lus, &ecrits, nullptr);
+    g_object_unref(zlib);
+    return std::string(page, ecrits);
 }
 
 }  // namespace
@@ -219,6 +232,9 @@ TEST(Impression, PdfDUnePage) {
     EXPECT_NE(pdf.find("/Count 1"), std::string::npos);
     // 210 by 148 mm in points.
     EXPECT_NE(pdf.find("/MediaBox [ 0 0 595.275591 419.527559 ]"), std::string::npos);
+    // 10 mm and 100 mm in points, from the corner of the paper.
+    EXPECT_NE(Page(pdf).find(" 28.34"), std::string::npos) << Page(pdf);
+    EXPECT_NE(Page(pdf).find(" 283.46"), std::string::npos) << Page(pdf);
 
     BddCourante.Modifie = true;
     EXPECT_FALSE(ecrit("/nulle/part.pdf"));
