@@ -1,6 +1,7 @@
 // What comes back at the next start, and what a broken file does.
 
 #include <glib/gstdio.h>
+#include <glibmm/miscutils.h>
 #include <gtest/gtest.h>
 
 #include "commun/banc.h"
@@ -83,4 +84,13 @@ TEST(Preferences, UnFichierFauxNEmpecheRien) {
               change("65278 56540 47802", "65535 65535 0"));
     EXPECT_EQ(dossier.Repris(change("47802\n4 2", "47802\n0 2")),
               dossier.Repris(change("47802\n4 2", "47802\n1 2")));
+}
+
+TEST(Preferences, SansDossierNommeCeluiDeLUtilisateur) {
+    const std::string fichier = Glib::get_user_config_dir() + "/KRVEK.ini";
+    setenv("APPDATA", "", 1);
+    { const ZoneDessin zone; }
+    setenv("APPDATA", "/nonexistent", 1);
+    EXPECT_EQ(Contenu(fichier).substr(0, 5), "2\n10\n");
+    g_unlink(fichier.c_str());
 }
