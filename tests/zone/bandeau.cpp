@@ -51,7 +51,7 @@ struct Dite {
 
 TEST(Bandeau, DitEtLaisseChoisir) {
     Dite dite;
-    EXPECT_EQ(dite.Bande.Texte(), "");
+    EXPECT_FALSE(dite.Bande.get_visible());
     for (const std::size_t choix : {0u, 1u}) {
         dite.Dit("avant");
         dite.Dit("dit");

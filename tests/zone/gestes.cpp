@@ -1,5 +1,7 @@
 // Gestures as they are written down under data/, with what must come of each: the numbers were
-// worked out by hand.
+// worked out by hand. A line is a gesture or a command, with positions in drawing units; `etat`
+// enters the tool of that number, `saisie` and `refus` answer the next dialog with what is typed
+// into its fields, `?` asks for the colour at a place.
 
 #include <gtest/gtest.h>
 
