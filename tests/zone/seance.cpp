@@ -327,6 +327,7 @@ std::string Seance::Joue(const std::string& ligne) {
     const auto avant = enBande ? std::make_shared<Capture>(Table->Image()) : nullptr;
     effet->second(*Table, mots);
     if (mots.bad()) Reponse = "    not taken\n";
+    if (!Depart) return Dit();
     auto apres = std::make_shared<Capture>(ExigeRepeinte(dessus.Visible(Bandes::Outil)));
     const std::size_t nombre = Dessin.size();
     const std::string dit = Dit();
