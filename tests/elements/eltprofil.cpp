@@ -1,15 +1,13 @@
 #include "elements/eltprofil.h"
-#include "commun/record.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 
-#include "elements/angles.h"
-#include "elements/eltarc.h"
-#include "elements/eltsegment.h"
+#include "commun/record.h"
 #include "elements/lecteur.h"
 #include "toile.h"
-#include "verifie.h"
 
 namespace {
 
@@ -23,54 +21,7 @@ EltProfil Charge(const std::string& suite) {
     return profil;
 }
 
-std::vector<unsigned> Peint(const EltProfil& profil, bool bande = false) {
-    const Toile toile;
-    TraceEcran trace = bande ? toile.Bande() : toile.Pinceau();
-    profil.Dessine(trace);
-    return toile.Lit();
-}
-
-PointVek Milieu(const ArcDeLien& arc) {
-    return PointPolaire(arc.Centre, arc.Rayon, arc.Debut + arc.Ouverture / 2.0);
-}
-
-/// The chain of the vertices from depart along one element.
-std::vector<SommetProfil> Suivi(const PointVek& depart, const EltGeo& elt) {
-    EltProfil profil;
-    profil.Debut({7, 7});
-    profil.Ajoute(depart);
-    profil.AjouteElement(elt);
-    for (SommetProfil& sommet : profil.Sommets)
-        sommet += profil.Position;
-    return profil.Sommets;
-}
-
 }  // namespace
-
-TEST(EltProfil, ArcsDesLiens) {
-    // A chord of 10 on a circle of 13: the centre is 12 away from it.
-    const PointVek a(0, 0);
-    for (const double rayon : {13.0, -13.0}) {
-        const SommetProfil b({10, 0}, rayon);
-        const auto arc = b.Arc(a);
-        ASSERT_TRUE(arc);
-        EXPECT_POINT(arc->Centre, 5, rayon > 0 ? -12 : 12);
-        EXPECT_EQ(arc->Ouverture<0, rayon> 0);
-        EXPECT_POINT(PointPolaire(arc->Centre, 13, arc->Debut), 0, 0);
-        EXPECT_POINT(PointPolaire(arc->Centre, 13, arc->Debut + arc->Ouverture), 10, 0);
-        EXPECT_POINT(Milieu(*arc), 5, rayon > 0 ? 1 : -1);
-    }
-    EXPECT_FALSE(SommetProfil({10, 0}, 4.9).Arc(a)) << "the chord exceeds the diameter";
-    EXPECT_FALSE(SommetProfil({10, 0}, 0).Arc(a));
-    EXPECT_FALSE(SommetProfil({0, 0}, 5).Arc(a));
-    EXPECT_FALSE(SommetProfil(PointVek(10, 0)).Arc(a));
-    EXPECT_FALSE(SommetProfil({1e300, 1e300}, 5).Arc(-PointVek(1e300, 1e300)));
-    // A half turn whose ends were rounded by a file is still one.
-    const auto demi = SommetProfil({66.6667, 0}, -33.3333).Arc(a);
-    ASSERT_TRUE(demi);
-    EXPECT_NEAR(demi->Ouverture, Pi, 1e-9);
-    EXPECT_POINT(Milieu(*demi), 33.33335, -33.33335);
-}
 
 TEST(EltProfil, Enregistrement) {
     EltProfil profil;
@@ -93,96 +44,6 @@ TEST(EltProfil, Enregistrement) {
     EXPECT_EQ(nombre("1\n3\n1 2 3 R4  5 6 7 "), 1u) << "no R behind a blank";
     EXPECT_EQ(nombre("1\n3\n1 2 3 4 nan 6 7 8 9 "), 1u);
     EXPECT_EQ(nombre(""), 0u);
-}
-
-TEST(EltProfil, TransformationPoigneesCopie) {
-    EltProfil profil;
-    profil.Debut({10, 20});
-    profil.Ajoute({30, 20});
-    profil.Sommets.emplace_back(PointVek(60, 30), 35);
-    const PointVek bombe = profil.Position + Milieu(*profil.Sommets[1].Arc(profil.Sommets[0]));
-    for (const bool x : {false, true})
-        for (const bool y : {false, true}) {
-            TransformeColle t;
-            t.Cos = 0.6;
-            t.Sin = 0.8;
-            t.SymetrieX = x;
-            t.SymetrieY = y;
-            t.Agrandissement = 3;
-            EltProfil autre(profil);
-            autre.Transforme(t);
-            PointVek attendu = bombe;
-            attendu.Transforme(t);
-            const auto arc = autre.Sommets[1].Arc(autre.Sommets[0]);
-            ASSERT_TRUE(arc);
-            EXPECT_POINT(autre.Position + Milieu(*arc), attendu.x, attendu.y);
-        }
-
-    EXPECT_POINT(profil.PointProche({72, 49}), 70, 50);
-    EXPECT_POINT(profil.PointProche({20, 20}), 10, 20);  // A tie goes to the position.
-    EXPECT_DOUBLE_EQ(profil.Distance({73, 54}), 5);
-    EXPECT_POINT(EltProfil().PointProche({3, 3}), 0, 0);
-
-    const auto saisit = [](EltProfil& p, const PointVek& la, const PointVek& v) {
-        p.DebutDeforme(la);
-        p.Deforme(v);
-        return PoigneeCourante;
-    };
-    const auto clone = profil.Clone();
-    auto& copie = static_cast<EltProfil&>(*clone);
-    EXPECT_EQ(saisit(copie, {500, 300}, {1, 2}), 4);  // However far the nearest vertex is.
-    EXPECT_EQ(SommetCourant, 1);
-    EXPECT_POINT(copie.Sommets[1], 61, 32);
-    EXPECT_POINT(profil.Sommets[1], 60, 30);
-    EXPECT_EQ(saisit(copie, {12, 21}, {5, 5}), 1);
-    EXPECT_POINT(copie.Position, 15, 25);
-    EXPECT_POINT(copie.Sommets[1], 61, 32);
-    EltProfil vide;
-    EXPECT_EQ(saisit(vide, {500, 300}, {1, 2}), 1);
-    vide.Copie(copie);
-    EXPECT_EQ(Record(vide), Record(copie));
-
-    EXPECT_TRUE(profil.EstValide());
-    profil.Sommets[1] = profil.Sommets[0];
-    EXPECT_FALSE(profil.EstValide());
-    profil.Sommets.pop_back();
-    EXPECT_FALSE(profil.EstValide());
-    profil.Sommets[0].Rayon = HUGE_VAL;
-    EXPECT_FALSE(profil.EstFini());
-}
-
-TEST(EltProfil, SuitLesElementsDansLesDeuxSens) {
-    const EltSegment segment({0, 0}, {30, 40}, 0);
-    EXPECT_POINT(Suivi({1, 0}, segment)[1], 30, 40);
-    EXPECT_POINT(Suivi({29, 40}, segment)[1], 0, 0);
-
-    struct Cas {
-        double Ouverture;  ///< Degrees, from the direction of x.
-        PointVek Depart, Arrivee;
-        double Rayon;
-    };
-    for (const Cas& cas : {Cas{90, {10, 0}, {0, 10}, -10}, Cas{90, {0, 10}, {10, 0}, 10},
-                           Cas{-90, {10, 0}, {0, -10}, 10}, Cas{-90, {0, -10}, {10, 0}, -10},
-                           Cas{180, {10, 0}, {-10, 0}, -10}, Cas{180, {-10, 0}, {10, 0}, 10},
-                           Cas{270, {10, 0}, {0, -10}, -10}, Cas{270, {0, -10}, {10, 0}, 10},
-                           Cas{360, {10, 0}, {10, 0}, -10}}) {
-        SCOPED_TRACE(cas.Ouverture);
-        const EltArc arc({0, 0}, 10, 0, EnRadians(cas.Ouverture), 0);
-        const auto sommets = Suivi(cas.Depart, arc);
-        ASSERT_EQ(sommets.size(), std::abs(cas.Ouverture) > 180 ? 3u : 2u);
-        EXPECT_POINT(sommets.back(), cas.Arrivee.x, cas.Arrivee.y);
-        for (std::size_t i = 1; i < sommets.size(); ++i) {
-            EXPECT_EQ(sommets[i].Rayon, cas.Rayon);
-            const auto lien = sommets[i].Arc(sommets[i - 1]);
-            ASSERT_TRUE(lien);
-            EXPECT_POINT(lien->Centre, 0, 0);
-            // The middle of the link lies on the element and not on what it leaves out.
-            const PointVek milieu = Milieu(*lien);
-            const double angle = EnDegres(std::atan2(milieu.y, milieu.x));
-            const double depuis = std::remainder(angle - cas.Ouverture / 2, 360);
-            EXPECT_LT(std::abs(depuis), std::abs(cas.Ouverture) / 2);
-        }
-    }
 }
 
 TEST(EltProfil, SurfaceBordeeDArcs) {

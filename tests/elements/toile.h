@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "elements/eltgeo.h"
 #include "elements/traceecran.h"
 #include "model/echelle.h"
 
@@ -56,4 +57,12 @@ class Toile {
 /// The pixel of a picture.
 inline unsigned Vu(const std::vector<unsigned>& image, int x, int y) {
     return image[static_cast<std::size_t>(y * Toile::Largeur + x)];
+}
+
+/// An element alone on a white drawing, or as a band on it.
+inline std::vector<unsigned> Peint(const EltGeo& elt, bool bande = false) {
+    const Toile toile;
+    TraceEcran trace = bande ? toile.Bande() : toile.Pinceau();
+    elt.Dessine(trace);
+    return toile.Lit();
 }

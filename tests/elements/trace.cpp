@@ -16,13 +16,6 @@ namespace {
 
 using Image = std::vector<unsigned>;
 
-Image Peinte(const EltGeo& elt) {
-    const Toile toile;
-    TraceEcran trace = toile.Pinceau();
-    elt.Dessine(trace);
-    return toile.Lit();
-}
-
 EltArc Cercle(double x, double y, double rayon) {
     return {{x, y}, rayon, 0, DeuxPi, 0};
 }
@@ -102,21 +95,21 @@ TEST(Trace, SegmentsLointains) {
     for (const double loin : {1e5, 1e9, 1e15, 1e18, 1e21, 1e300}) {
         SCOPED_TRACE(loin);
         const auto ligne = [](int, int y) { return Si(y == 0); };
-        Compare(Peinte(EltSegment({-loin, 0}, {3.3 * loin, 0}, 0)), ligne);
-        Compare(Peinte(EltRectangle({-1.7 * loin, 0}, {loin, -loin}, 0)), ligne);
+        Compare(Peint(EltSegment({-loin, 0}, {3.3 * loin, 0}, 0)), ligne);
+        Compare(Peint(EltRectangle({-1.7 * loin, 0}, {loin, -loin}, 0)), ligne);
     }
-    Compare(Peinte(EltSegment({-1e9, -1e9}, {1e9, 1e9}, 0)),
+    Compare(Peint(EltSegment({-1e9, -1e9}, {1e9, 1e9}, 0)),
             [](int x, int y) { return Si(x == y); });
     // The dashes stay those that are counted from the far end: 5 pixels, then a gap of 5.
     EltSegment tirets({-40000, 0}, {40000, 0}, 0);
     tirets.Style.StyleLigne = Tirets;
-    Compare(Peinte(tirets), [](int x, int y) { return Si(y == 0 && (x + 100) % 10 < 5); });
+    Compare(Peint(tirets), [](int x, int y) { return Si(y == 0 && (x + 100) % 10 < 5); });
 }
 
 TEST(Trace, CerclesImmenses) {
     for (const double rayon : {3000.0, 5000.0, 1e5, 1e6, 1e9}) {
         SCOPED_TRACE(rayon);
-        const Image image = Peinte(Cercle(-rayon, 0, rayon));
+        const Image image = Peint(Cercle(-rayon, 0, rayon));
         for (int y = 0; y < Toile::Hauteur; ++y) {
             const double dy = 80 - y;
             const double bord = 100 - dy * dy / (rayon + std::sqrt(rayon * rayon - dy * dy));
@@ -130,12 +123,12 @@ TEST(Trace, CerclesImmenses) {
         }
     }
     // The part that the arc leaves out is not painted.
-    Compare(Peinte(EltArc({-1e6, 0}, 1e6, 0, 1, 0)),
+    Compare(Peint(EltArc({-1e6, 0}, 1e6, 0, 1, 0)),
             [](int x, int y) { return std::abs(y) < 2 ? -1 : Si(x == 0 && y > 0); });
     for (const double rayon : {60.0, 1e5, 1e9})
         for (const int signe : {1, -1}) {  // A mirror leaves a negative opening.
             SCOPED_TRACE(rayon);
-            Compare(Peinte(Secteur(rayon, 0, signe * Pi / 2)), [=](int x, int y) {
+            Compare(Peint(Secteur(rayon, 0, signe * Pi / 2)), [=](int x, int y) {
                 const double d = std::hypot(x, y);
                 const bool bord = x * x < 4 || y * y < 4 || std::abs(d - rayon) < 2;
                 return bord ? -1 : Si(x > 0 && signe * y > 0 && d < rayon, Bleu);
@@ -150,7 +143,7 @@ TEST(Trace, DroitesSansFin) {
             SCOPED_TRACE(testing::Message() << d.x << ' ' << d.y << ' ' << recul);
             const PointVek p = PointVek(5, -3) - d * recul;
             const double cote = std::max(std::abs(d.x), std::abs(d.y));
-            const Image image = Peinte(EltDroite(p, p + d, 0));
+            const Image image = Peint(EltDroite(p, p + d, 0));
             Compare(image, [&](int x, int y) {
                 return std::abs((x - 5) * d.y - (y + 3) * d.x) > 1.01 * cote ? Blanc : -1L;
             });
@@ -162,10 +155,10 @@ TEST(Trace, DroitesSansFin) {
 TEST(Trace, CeQuiEstDehorsNeSePeintPas) {
     const auto vide = [](int, int) { return Blanc; };
     // Pixel 65546 is not pixel 10.
-    Compare(Peinte(EltGeo({65446, 0}, 0)), vide);
-    Compare(Peinte(EltSegment({65446, -10}, {65446, 10}, 0)), vide);
-    Compare(Peinte(Cercle(65446, 0, 10)), vide);
-    Compare(Peinte(EltRectangle({65436, 10}, {65456, -10}, 0)), vide);
+    Compare(Peint(EltGeo({65446, 0}, 0)), vide);
+    Compare(Peint(EltSegment({65446, -10}, {65446, 10}, 0)), vide);
+    Compare(Peint(Cercle(65446, 0, 10)), vide);
+    Compare(Peint(EltRectangle({65436, 10}, {65456, -10}, 0)), vide);
     const Toile toile;
     TraceEcran trace = toile.Pinceau();
     trace.AppliqueTrait(Trait(), Trace::Ligne);
@@ -189,7 +182,7 @@ TEST(Trace, StylesHostiles) {
                 r.Style.AngleHachure = angle;
                 r.Style.Hachure = 1;
                 r.Style.Remplissage = true;
-                const Image image = Peinte(r);
+                const Image image = Peint(r);
                 ASSERT_EQ(Vu(image, 100 + 75, 80), Blanc);  // 100 is the widest.
                 ASSERT_EQ(Vu(image, 100 - 60, 80) == Blanc, epaisseur < 100);
             }
@@ -200,15 +193,15 @@ TEST(Trace, SurfacesEtContours) {
     r.Style.Couleur = Gdk::Color("#ff0000");
     r.Style.CouleurFond = Gdk::Color("#0000ff");
     r.Style.Remplissage = true;
-    Compare(Peinte(r), [](int x, int y) {
+    Compare(Peint(r), [](int x, int y) {
         const bool dedans = std::abs(x) < 30 && std::abs(y) < 20;
         return dedans ? Bleu : Si(std::abs(x) <= 30 && std::abs(y) <= 20, Rouge);
     });
     r.Style.Contour = false;
     r.SetPoints({-1e9, 1e9}, {30, -20});
-    Compare(Peinte(r), [](int x, int y) { return Si(x < 30 && y > -20, Bleu); });
+    Compare(Peint(r), [](int x, int y) { return Si(x < 30 && y > -20, Bleu); });
     // Without area: a square of ten pixels.
-    Compare(Peinte(EltRectangle({0, 20}, {0, -20}, 0)), [](int x, int y) {
+    Compare(Peint(EltRectangle({0, 20}, {0, -20}, 0)), [](int x, int y) {
         const int ecart = std::max(std::abs(x - 5), std::abs(y - 15));
         return Si(ecart == 5);
     });
@@ -220,7 +213,7 @@ TEST(Trace, SurfacesEtContours) {
         elt->Style.CouleurFond = Gdk::Color("#0000ff");
         elt->Style.Hachure = elt->Type != TypeDisque;
         elt->Style.Remplissage = !ferme && elt->Type != TypeDisque;
-        const Image image = Peinte(*elt);
+        const Image image = Peint(*elt);
         int rouges = 0;
         Compare(image, [&](int x, int y) {
             const bool rouge = Vu(image, x + 100, 80 - y) == Rouge;
@@ -276,7 +269,7 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
             if (style.Remplissage) continue;  // Of one colour, a part may be painted twice.
             elt->Style = style;
             const auto image = parties([&](Trace& trace) { elt->Dessine(trace); });
-            EXPECT_TRUE(image == Peinte(*elt)) << elt->Clone()->Nom();
+            EXPECT_TRUE(image == Peint(*elt)) << elt->Clone()->Nom();
         }
     const auto image = parties([](TraceEcran& trace) {
         trace.AppliqueTrait(Trait(), Trace::Ligne);
