@@ -12,6 +12,8 @@ TEST(Echelle, PassageDessinPixels) {
     EXPECT_POINT(e.VersEcran({13, 24}), 206, 142);
     EXPECT_EQ(e.Epsilon, 5e-7);
     EXPECT_EQ(e.Proche10, 5);
+    e.ZoomMoinsEn({30, -20});
+    EXPECT_POINT(e.VersEcran({33, -16}), 203, 146);
     Hasard hasard(6);
     for (int i = 0; i < 200; ++i) {
         e.ZoomRectangle(hasard.Point(1000), hasard.Point(1000), 400);
@@ -41,10 +43,9 @@ TEST(Echelle, Zooms) {
     e.Droite();
     EXPECT_POINT(e.Origine, 5, 6);
     e.Bas();
+    e.Bas();
     e.Gauche();
-    EXPECT_POINT(e.Origine, 3, 4);
-    e.ZoomRectangle({0, 0}, {9e-7, 9e-7}, 400);  // The diagonal counts as the size.
-    EXPECT_GT(e.Facteur, 1e8);
+    EXPECT_POINT(e.Origine, 3, 2);
 
     e.ZoomInit();
     for (int i = 0; i < 30; ++i)
@@ -59,10 +60,10 @@ TEST(Echelle, Zooms) {
         ASSERT_TRUE(utilisable());
     }
     EXPECT_GT(e.Facteur, 1e100);
-    e.ZoomRectangle({-1e300, 0}, {1e300, 5}, 400);
-    EXPECT_TRUE(utilisable());
-    e.ZoomRectangle({0, 0}, {50, 50}, 0);
-    EXPECT_TRUE(utilisable());
+    for (const auto& [bas, largeur] : {std::pair(-1e300, 400), {0.0, 0}, {-1e-300, 400}}) {
+        e.ZoomRectangle({bas, 0}, {-bas, 5}, largeur);
+        EXPECT_TRUE(utilisable());
+    }
 }
 
 TEST(Grille, Marques) {
@@ -77,15 +78,19 @@ TEST(Grille, Marques) {
         return toile.Lit();
     };
     const Gdk::Rectangle tout(0, 0, Toile::Largeur, Toile::Hauteur);
-    const int pixels[] = {1, 5, 13, 17};
+    // Around each node, at 9 + 12 i and 8 + 12 j: a pixel, a plus, crosses of 3 and 4.
     for (g.Forme = 1; g.Forme <= 4; ++g.Forme) {
         const auto image = peint(tout);
-        int noirs = 0;  // Around one node.
-        for (int i = -5; i <= 5; ++i)
-            for (int j = -5; j <= 5; ++j)
-                noirs += Vu(image, 153 + i, 44 + j) == Noir;
-        EXPECT_EQ(noirs, pixels[g.Forme - 1]);
-        EXPECT_EQ(Vu(image, 153, 44), Noir);
+        const int bras = g.Forme == 1 ? 0 : g.Forme == 2 ? 1 : g.Forme;
+        for (int x = 4; x < Toile::Largeur; ++x)
+            for (int y = 4; y < Toile::Hauteur; ++y) {
+                // The origin is marked by two wide strokes.
+                if (std::abs(x - 105) < 6 && std::abs(y - 80) < 6) continue;
+                const int dx = std::abs((x - 9 + 18) % 12 - 6),
+                          dy = std::abs((y - 8 + 18) % 12 - 6);
+                const bool noir = std::min(dx, dy) == 0 && std::max(dx, dy) <= bras;
+                ASSERT_EQ(Vu(image, x, y), noir ? Noir : Blanc) << g.Forme << ' ' << x << ' ' << y;
+            }
     }
     g.Forme = 1;
     g.Pas = 5;  // Too near for nodes: the origin mark alone.
@@ -102,4 +107,30 @@ TEST(Grille, Marques) {
             for (int y = 0; y < Toile::Hauteur; ++y)
                 ASSERT_EQ(Vu(partie, i, y), Vu(entiere, i, y)) << i << ", " << y;
     }
+}
+
+TEST(Grille, AccrocheEtPas) {
+    Grille g;
+    g.Position = {1, 2};
+    PointVek p(17, -9);
+    g.Aligne(p);
+    EXPECT_POINT(p, 17, -9);
+    EXPECT_TRUE(g.Bascule());
+    g.Aligne(p);
+    EXPECT_POINT(p, 21, -8);
+    p = {15.9, -13.1};
+    g.Aligne(p);
+    EXPECT_POINT(p, 11, -18);
+    g.Plus();
+    EXPECT_EQ(g.Pas, 20);
+    for (int i = 0; i < 40; ++i)
+        g.Plus();
+    EXPECT_EQ(g.Pas, 10 * std::pow(2, 17));  // The first at or above a million.
+    for (int i = 0; i < 90; ++i)
+        g.Moins();
+    EXPECT_EQ(g.Pas, 10 * std::pow(0.5, 24));  // The first at or below a millionth.
+    g.SetPas(1e-6);
+    EXPECT_LT(g.Pas, 1e-6);
+    g.SetPas(3);
+    EXPECT_EQ(g.Pas, 3);
 }

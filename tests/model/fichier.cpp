@@ -4,11 +4,9 @@
 #include <gtest/gtest.h>
 #include <gtkmm/main.h>
 #include <gtkmm/recentmanager.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 
@@ -58,23 +56,6 @@ TEST_F(Fichier, GardeLesDroitsEtLesLiens) {
     ASSERT_TRUE(EcritFichier(Chemin, "quatre"));
     EXPECT_EQ(Lu(autre), "quatre");
     EXPECT_EQ(Nombre(), 3);
-}
-
-TEST_F(Fichier, DisquePleinLaisseLAncien) {
-    const std::string ancien(3000, 'a');
-    ASSERT_TRUE(EcritFichier(Chemin, ancien));
-    // No file may grow beyond 4000 bytes, which is what a full disk looks like.
-    struct rlimit limite = {};
-    getrlimit(RLIMIT_FSIZE, &limite);
-    const auto avant = std::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit etroite = {4000, limite.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &etroite);
-    const bool ecrit = EcritFichier(Chemin, std::string(9000, 'b'));
-    setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, avant);
-    EXPECT_FALSE(ecrit);
-    EXPECT_EQ(Lu(Chemin), ancien);
-    EXPECT_EQ(Nombre(), 1);
 }
 
 TEST_F(Fichier, CeQuiNEstPasUnFichier) {
