@@ -290,6 +290,14 @@ const std::map<std::string, Construction> Constructions = {
          l.Dit(PointVek(trace.Etendue()->Gauche, -trace.Etendue()->Haut));
          l.Dit(PointVek(trace.Etendue()->Droite, -trace.Etendue()->Bas));
      }},
+    {"valeur",
+     [](Ligne& l) {
+         EltCote cote;
+         cote.SetPoint2({l.Nombre(), 0});
+         NbDecimales = static_cast<int>(l.Nombre());
+         l.Dit(cote.TexteValeur());
+         NbDecimales = 2;
+     }},
     {"projete", Question(&EltSegment::Projete)},
     {"contient", Question(&EltRectangle::Contient)},
     {"place", Regle(&EltGeo::Place)},

@@ -3,13 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
+#include "commun/record.h"
 #include "elements/angles.h"
+#include "elements/eltcote.h"
 #include "elements/eltdisque.h"
 #include "elements/eltdroite.h"
 #include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
+#include "elements/traceetendue.h"
+#include "elements/tracepage.h"
+#include "model/bddgeobase.h"
 #include "toile.h"
 
 namespace {
@@ -49,44 +53,57 @@ long Si(bool condition, unsigned couleur = Noir) {
     return condition ? couleur : Blanc;
 }
 
-/// Elements of each class, within the view and reaching far out of it.
-std::vector<std::unique_ptr<EltGeo>> Echantillon() {
-    std::vector<std::unique_ptr<EltGeo>> elts;
-    elts.push_back(std::make_unique<EltGeo>(PointVek(3.4, -7.6), 0));
-    elts.push_back(std::make_unique<EltSegment>(PointVek(-70.3, 40.4), PointVek(66.6, -52.2), 0));
-    elts.push_back(std::make_unique<EltSegment>(PointVek(-1e6, 7), PointVek(90, 7), 0));
-    elts.push_back(std::make_unique<EltDroite>(PointVek(10, 10), PointVek(13, 20), 0));
-    elts.push_back(std::make_unique<EltArc>(PointVek(-20, 10), 50.5, 0.3, 4, 0));
-    elts.push_back(std::make_unique<EltArc>(Cercle(-5000, 0, 5040)));
-    elts.push_back(std::make_unique<EltRectangle>(PointVek(-80.5, 60), PointVek(30, -30.5), 0));
-    elts.push_back(std::make_unique<EltRectangle>(PointVek(-1e6, 1e6), PointVek(50, -50), 0));
-    EltProfil ouvert;
-    ouvert.Ferme = false;
-    for (const PointVek& p : {PointVek(-60, -20), {-60, 30}, {-1e6, 30}, {40, -60}})
-        ouvert.Ajoute(p);
-    ouvert.AjouteElement(EltArc({40, -30}, 30.5, 2, 4, 0));
-    elts.push_back(ouvert.Clone());
-    elts.push_back(std::make_unique<EltDisque>(Secteur(60, 1, 4)));
-    elts.push_back(std::make_unique<EltDisque>(Secteur(1e5, 2, 3)));
-    return elts;
+/// Elements of each class, within the view and reaching far out of it, each in six styles: three
+/// lines, then three surfaces.
+struct Echantillon : BDDGeoBase {
+    Echantillon() { ChargeTexte(Contenu(KRVEK_ESSAIS "/elements/data/echantillon.vek")); }
+};
+
+bool EstCote(const EltGeo& elt) {
+    return dynamic_cast<const EltCote*>(&elt) != nullptr;
 }
 
-/// Three lines, then three fills.
-std::vector<Trait> Styles() {
-    std::vector<Trait> styles(6);
-    styles[1].StyleLigne = Axe;
-    styles[2].StyleLigne = Pointille;
-    styles[2].Epaisseur = 7;
-    for (std::size_t i = 3; i < styles.size(); ++i) {
-        styles[i].Remplissage = true;
-        styles[i].Couleur = Gdk::Color("#ff8000");
-        styles[i].CouleurFond = Gdk::Color("#20c060");
-        styles[i].Hachure = i > 3;
-        styles[i].PasHachure = 6;
-        styles[i].AngleHachure = i == 4 ? 0.7 : -1.57;
-        styles[i].Contour = i != 5;
-    }
-    return styles;
+/// The element on paper, a unit of the page being a pixel.
+Image Imprime(const EltGeo& elt) {
+    const Toile vue;
+    const auto surface =
+        Cairo::ImageSurface::create(Cairo::FORMAT_RGB24, Toile::Largeur, Toile::Hauteur);
+    const auto cr = Cairo::Context::create(surface);
+    cr->set_source_rgb(1.0, 1.0, 1.0);
+    cr->paint();
+    // Pixels are counted by their middles.
+    cr->translate(0.5, 0.5);
+    TracePage trace(cr, Toile::Largeur, Toile::Hauteur, 4.0, false);
+    elt.Dessine(trace);
+    surface->flush();
+    Image image;
+    for (int y = 0; y < Toile::Hauteur; ++y)
+        for (int x = 0; x < Toile::Largeur; ++x)
+            image.push_back(*reinterpret_cast<unsigned*>(surface->get_data() + 4 * x +
+                                                         y * surface->get_stride()) &
+                            0xffffff);
+    return image;
+}
+
+/// Number of pixels of an image that have no like in the other one, there or beside.
+int SansPareil(const Image& image, const Image& autre) {
+    const auto semblables = [](unsigned a, unsigned b) {
+        for (const int decalage : {0, 8, 16})
+            if (std::abs(static_cast<int>(a >> decalage & 255) -
+                         static_cast<int>(b >> decalage & 255)) > 140)
+                return false;
+        return true;
+    };
+    int nombre = 0;
+    for (int y = 1; y + 1 < Toile::Hauteur; ++y)
+        for (int x = 1; x + 1 < Toile::Largeur; ++x) {
+            bool trouve = false;
+            for (int i = 0; i < 9; ++i)
+                trouve =
+                    trouve || semblables(Vu(image, x, y), Vu(autre, x + i / 3 - 1, y + i % 3 - 1));
+            nombre += !trouve;
+        }
+    return nombre;
 }
 
 }  // namespace
@@ -98,12 +115,21 @@ TEST(Trace, SegmentsLointains) {
         Compare(Peint(EltSegment({-loin, 0}, {3.3 * loin, 0}, 0)), ligne);
         Compare(Peint(EltRectangle({-1.7 * loin, 0}, {loin, -loin}, 0)), ligne);
     }
+    Compare(Peint(EltRectangle({-1e9, 200}, {-7, -1e9}, 0)),
+            [](int x, int) { return Si(x == -7); });
     Compare(Peint(EltSegment({-1e9, -1e9}, {1e9, 1e9}, 0)),
             [](int x, int y) { return Si(x == y); });
     // The dashes stay those that are counted from the far end: 5 pixels, then a gap of 5.
     EltSegment tirets({-40000, 0}, {40000, 0}, 0);
     tirets.Style.StyleLigne = Tirets;
     Compare(Peint(tirets), [](int x, int y) { return Si(y == 0 && (x + 100) % 10 < 5); });
+    EltRectangle bord({-40003, 0}, {0, -40000}, 0);
+    bord.Style.StyleLigne = Tirets;
+    Compare(Peint(bord), [](int x, int y) {
+        if (x == 0 && y == 0) return -1L;
+        if (y == 0 && x < 0) return Si((x + 103) % 10 < 5);
+        return Si(x == 0 && y < 0 && (3 - y) % 10 < 5);
+    });
 }
 
 TEST(Trace, CerclesImmenses) {
@@ -125,6 +151,12 @@ TEST(Trace, CerclesImmenses) {
     // The part that the arc leaves out is not painted.
     Compare(Peint(EltArc({-1e6, 0}, 1e6, 0, 1, 0)),
             [](int x, int y) { return std::abs(y) < 2 ? -1 : Si(x == 0 && y > 0); });
+    // The dashes of an arc are counted from its start, however far.
+    EltArc tirets({-1e6, 0}, 1e6, -40 * 1e-6, 1, 0);
+    tirets.Style.StyleLigne = Tirets;
+    Compare(Peint(tirets), [](int x, int y) {
+        return (y + 40) % 5 == 0 ? -1 : Si(x == 0 && y > -40 && (y + 40) % 10 < 5);
+    });
     for (const double rayon : {60.0, 1e5, 1e9})
         for (const int signe : {1, -1}) {  // A mirror leaves a negative opening.
             SCOPED_TRACE(rayon);
@@ -150,6 +182,12 @@ TEST(Trace, DroitesSansFin) {
             EXPECT_GE(std::count(image.begin(), image.end(), Noir),
                       std::abs(d.y) > std::abs(d.x) ? Toile::Hauteur : Toile::Largeur);
         }
+    // The dashes stay with the line when the view moves: they are counted from its point.
+    for (const double loin : {0.0, 1000.0, 1e6}) {
+        EltDroite tirets({-loin, 0}, {1 - loin, 0}, 0);
+        tirets.Style.StyleLigne = Tirets;
+        Compare(Peint(tirets), [](int x, int y) { return Si(y == 0 && (x + 100) % 10 < 5); });
+    }
 }
 
 TEST(Trace, CeQuiEstDehorsNeSePeintPas) {
@@ -167,25 +205,23 @@ TEST(Trace, CeQuiEstDehorsNeSePeintPas) {
     trace.Segment({std::nan(""), 10}, {20, 10});
     trace.Segment({5, 5}, {HUGE_VAL, 5});
     trace.Arc({{10, 10}, std::nan(""), 0, 1}, true);
+    trace.Arc({{HUGE_VAL, 10}, 5, 0, 1}, true);
     trace.Rectangle({10, 10}, std::nan(""), 5, true);
     Compare(toile.Lit(), vide);
 }
 
 TEST(Trace, StylesHostiles) {
-    const double rien = std::nan("");
-    for (const double pas : {40000.0, -3.0, 0.0, 1e300, rien, HUGE_VAL})
-        for (const double angle : {0.0, 0.7, 0.05, -1.5, 9.0, 1e300, rien, -HUGE_VAL})
-            for (const int epaisseur : {-5, 0, 1000000}) {
-                EltRectangle r({-20, 20}, {20, -20}, 0);
-                r.Style.Epaisseur = epaisseur;
-                r.Style.PasHachure = pas;
-                r.Style.AngleHachure = angle;
-                r.Style.Hachure = 1;
-                r.Style.Remplissage = true;
-                const Image image = Peint(r);
-                ASSERT_EQ(Vu(image, 100 + 75, 80), Blanc);  // 100 is the widest.
-                ASSERT_EQ(Vu(image, 100 - 60, 80) == Blanc, epaisseur < 100);
-            }
+    for (const double faux : {40000.0, -3.0, 0.0, 1e300, std::nan(""), -HUGE_VAL})
+        for (const int epaisseur : {-5, 0, 1000000}) {
+            EltRectangle r({-20, 20}, {20, -20}, 0);
+            r.Style.Epaisseur = epaisseur;
+            r.Style.PasHachure = r.Style.AngleHachure = faux;
+            r.Style.Hachure = 1;
+            r.Style.Remplissage = true;
+            const Image image = Peint(r);
+            ASSERT_EQ(Vu(image, 100 + 75, 80), Blanc);  // 100 is the widest.
+            ASSERT_EQ(Vu(image, 100 - 60, 80) == Blanc, epaisseur < 100);
+        }
 }
 
 TEST(Trace, SurfacesEtContours) {
@@ -200,57 +236,50 @@ TEST(Trace, SurfacesEtContours) {
     r.Style.Contour = false;
     r.SetPoints({-1e9, 1e9}, {30, -20});
     Compare(Peint(r), [](int x, int y) { return Si(x < 30 && y > -20, Bleu); });
-    // Without area: a square of ten pixels.
-    Compare(Peint(EltRectangle({0, 20}, {0, -20}, 0)), [](int x, int y) {
-        const int ecart = std::max(std::abs(x - 5), std::abs(y - 15));
-        return Si(ecart == 5);
-    });
 
     // What has no surface, and an open outline, is painted in its own colour whatever the style.
-    for (const auto& elt : Echantillon()) {
-        const bool ferme = elt->Type == TypeArc || dynamic_cast<EltRectangle*>(elt.get());
+    const Echantillon tous;
+    for (EltGeo* elt : tous.Elements) {
+        if (EstCote(*elt)) continue;
+        const bool ferme = elt->Type == TypeArc || elt->Type == TypeRectangle;
+        const auto* profil = dynamic_cast<EltProfil*>(elt);
+        if (elt->Type == TypeDisque || (profil && profil->Ferme)) continue;
         elt->Style.Couleur = Gdk::Color("#ff0000");
         elt->Style.CouleurFond = Gdk::Color("#0000ff");
-        elt->Style.Hachure = elt->Type != TypeDisque;
-        elt->Style.Remplissage = !ferme && elt->Type != TypeDisque;
+        elt->Style.Hachure = 1;
+        elt->Style.Remplissage = !ferme;
         const Image image = Peint(*elt);
-        int rouges = 0;
-        Compare(image, [&](int x, int y) {
-            const bool rouge = Vu(image, x + 100, 80 - y) == Rouge;
-            rouges += rouge;
-            return Si(rouge, Rouge);
-        });
-        EXPECT_GT(rouges, 0) << elt->Nom();
+        EXPECT_GT(std::count(image.begin(), image.end(), Rouge), 0) << elt->Nom();
+        EXPECT_EQ(std::count(image.begin(), image.end(), Rouge) +
+                      std::count(image.begin(), image.end(), Blanc),
+                  Toile::Largeur * Toile::Hauteur)
+            << elt->Nom();
     }
 }
 
 TEST(Trace, BandeSEffaceAuPixel) {
-    for (const Trait& style : Styles())
-        for (const auto& elt : Echantillon()) {
-            const Toile toile;
-            TraceEcran fond = toile.Pinceau();
-            Secteur(45, 0, 5).Dessine(fond);
-            elt->Style = style;
-            const Image avant = toile.Lit();
-            // Each painting with a context of its own, as two motions of the pointer have.
-            const auto bande = [&] {
-                TraceEcran trace = toile.Bande();
-                elt->Dessine(trace);
-                elt->DessinePoignees(trace);
-            };
-            bande();
-            EXPECT_NE(toile.Lit(), avant) << elt->Nom();
-            bande();
-            EXPECT_TRUE(toile.Lit() == avant) << elt->Nom();
-        }
+    const Echantillon tous;
+    for (const EltGeo* elt : tous.Elements) {
+        const Toile toile;
+        TraceEcran fond = toile.Pinceau();
+        Secteur(45, 0, 5).Dessine(fond);
+        const Image avant = toile.Lit();
+        // Each painting with a context of its own, as two motions of the pointer have.
+        const auto bande = [&] {
+            TraceEcran trace = toile.Bande();
+            elt->Dessine(trace);
+            elt->DessinePoignees(trace);
+        };
+        bande();
+        EXPECT_NE(toile.Lit(), avant) << elt->Nom();
+        bande();
+        EXPECT_TRUE(toile.Lit() == avant) << elt->Nom();
+    }
     // On the plain background a band has the element's colour, or the inverse of the background.
     for (const char* couleur : {"#000000", "#ff0000", "#ffffff"}) {
         EltSegment s({-50, 0}, {50, 0}, 0);
         s.Style.Couleur = Gdk::Color(couleur);
-        const Toile toile;
-        TraceEcran trace = toile.Bande();
-        s.Dessine(trace);
-        EXPECT_EQ(Vu(toile.Lit(), 100, 80), couleur[5] == couleur[1] ? Noir : Rouge);
+        EXPECT_EQ(Vu(Peint(s, true), 100, 80), couleur[5] == couleur[1] ? Noir : Rouge);
     }
 }
 
@@ -264,13 +293,13 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
             }
         return toile.Lit();
     };
-    for (const Trait& style : Styles())
-        for (const auto& elt : Echantillon()) {
-            if (style.Remplissage) continue;  // Of one colour, a part may be painted twice.
-            elt->Style = style;
-            const auto image = parties([&](Trace& trace) { elt->Dessine(trace); });
-            EXPECT_TRUE(image == Peint(*elt)) << elt->Clone()->Nom();
-        }
+    const Echantillon tous;
+    for (const EltGeo* elt : tous.Elements) {
+        // Of one colour, a part may be painted twice.
+        if (elt->Style.Remplissage || EstCote(*elt)) continue;
+        const auto image = parties([&](Trace& trace) { elt->Dessine(trace); });
+        EXPECT_TRUE(image == Peint(*elt)) << elt->Clone()->Nom();
+    }
     const auto image = parties([](TraceEcran& trace) {
         trace.AppliqueTrait(Trait(), Trace::Ligne);
         for (int i = 0; i < 159; ++i)
@@ -279,9 +308,46 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
     Compare(image, [](int x, int y) { return Si(x < 59 && 80 - y == x + 101); });
 }
 
+TEST(Trace, LePapierMontreCeQueLEcranMontre) {
+    const Echantillon tous;
+    for (const EltGeo* elt : tous.Elements) {
+        // Dots and tiles are others on paper, marks are none; dashes start elsewhere.
+        const Trait& style = elt->Style;
+        const bool marque = elt->Type == TypeGeo || elt->Type == TypeProfil || EstCote(*elt);
+        if (marque || style.StyleLigne != Continu || style.Hachure == 1) continue;
+        const Image ecran = Peint(*elt), papier = Imprime(*elt);
+        EXPECT_EQ(SansPareil(ecran, papier), 0) << elt->Nom() << ' ' << style.StyleLigne;
+        EXPECT_EQ(SansPareil(papier, ecran), 0) << elt->Nom() << ' ' << style.StyleLigne;
+    }
+}
+
+TEST(Trace, LaPorteeTientCeQuiEstPeint) {
+    const Echantillon tous;
+    for (const EltGeo* elt : tous.Elements) {
+        // The decimals of a dimension may change without the element.
+        const Minorant minorant = elt->MinorantDistance();
+        NbDecimales = 9;
+        const Image image = Peint(*elt);
+        EXPECT_TRUE(!EstCote(*elt) || Peint(*elt, true) == image) << elt->Nom();
+        const Toile vue;
+        TraceEtendue trace;
+        elt->Dessine(trace);
+        NbDecimales = 2;
+        const Boite boite = trace.Etendue()->Elargie(elt->Style.Epaisseur + 13.0);
+        Compare(image, [&](int x, int y) {
+            const bool dedans =
+                boite.Contient(PointVek(100 + x, 80 - y)) || elt->Type == TypeDroite;
+            const PointVek p(x, y);
+            return dedans && minorant.PeutToucher(Boite::Autour(p, p).Elargie(13)) ? -1L : Blanc;
+        });
+    }
+}
+
 TEST(Trace, LaHachureSuitLaVue) {
     EltDisque disque(Secteur(40, 0, DeuxPi));
-    disque.Style = Styles()[4];
+    disque.Style.Hachure = 1;
+    disque.Style.PasHachure = 6;
+    disque.Style.AngleHachure = 0.7;
     const Toile fixe, glissee;
     TraceEcran avant = fixe.Pinceau();
     disque.Dessine(avant);
