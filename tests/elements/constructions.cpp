@@ -2,6 +2,7 @@
 // result behind "=". The lines are played a second time in a drawing that is turned and shifted,
 // and must give the same there.
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <sstream>
@@ -116,11 +117,10 @@ std::unique_ptr<EltGeo> Ligne::Element() {
         }
         return profil;
     }
-    const std::map<std::string, int> cotes = {
-        {"cote", TypeCote},        {"horizontale", TypeCoteHori}, {"verticale", TypeCoteVert},
-        {"diametre", TypeCoteDia}, {"rayon", TypeCoteRayon},      {"angulaire", TypeCoteAng},
-    };
-    auto elt = CreeElement(cotes.at(mot));
+    const char* const cotes[] = {"cote",        "angulaire", "verticale",
+                                 "horizontale", "diametre",  "rayon"};
+    const auto rang = std::find(std::begin(cotes), std::end(cotes), mot) - std::begin(cotes);
+    auto elt = CreeElement(TypeCote + static_cast<int>(rang));
     auto& cote = static_cast<EltCote&>(*elt);
     cote.SetPoint1(a);
     cote.SetPoint2(Point());
@@ -135,9 +135,9 @@ void Ligne::Dit(const EltGeo& elt) {
         Dit(segment->Extremite);
         EXPECT_POINT(elt.Position * 2, segment->Origine.x + segment->Extremite.x,
                      segment->Origine.y + segment->Extremite.y);
-        return;
+    } else {
+        Dit(elt.Position);
     }
-    Dit(elt.Position);
     if (const auto* arc = dynamic_cast<const EltArc*>(&elt)) {
         Dit(arc->Rayon);
         if (arc->Ouverture != DeuxPi) DitAngle(arc->AngleDebut);

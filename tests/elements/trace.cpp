@@ -236,25 +236,6 @@ TEST(Trace, SurfacesEtContours) {
     r.Style.Contour = false;
     r.SetPoints({-1e9, 1e9}, {30, -20});
     Compare(Peint(r), [](int x, int y) { return Si(x < 30 && y > -20, Bleu); });
-
-    // What has no surface, and an open outline, is painted in its own colour whatever the style.
-    const Echantillon tous;
-    for (EltGeo* elt : tous.Elements) {
-        if (EstCote(*elt)) continue;
-        const bool ferme = elt->Type == TypeArc || elt->Type == TypeRectangle;
-        const auto* profil = dynamic_cast<EltProfil*>(elt);
-        if (elt->Type == TypeDisque || (profil && profil->Ferme)) continue;
-        elt->Style.Couleur = Gdk::Color("#ff0000");
-        elt->Style.CouleurFond = Gdk::Color("#0000ff");
-        elt->Style.Hachure = 1;
-        elt->Style.Remplissage = !ferme;
-        const Image image = Peint(*elt);
-        EXPECT_GT(std::count(image.begin(), image.end(), Rouge), 0) << elt->Nom();
-        EXPECT_EQ(std::count(image.begin(), image.end(), Rouge) +
-                      std::count(image.begin(), image.end(), Blanc),
-                  Toile::Largeur * Toile::Hauteur)
-            << elt->Nom();
-    }
 }
 
 TEST(Trace, BandeSEffaceAuPixel) {
