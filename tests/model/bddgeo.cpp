@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <vector>
 
 #include "commun/hasard.h"
 #include "commun/record.h"
-#include "elements/eltarc.h"
-#include "elements/eltdroite.h"
 #include "elements/eltrectangle.h"
 #include "elements/toile.h"
 #include "model/eltbdd.h"
@@ -21,6 +20,7 @@ namespace {
 class Histoire {
   public:
     Histoire() {
+        Large.Epaisseur = 3;
         Bdd.SignalRetrait().connect([this](EltGeo* elt) { Dit(elt ? "-" + Nom(elt) : "--"); });
         Bdd.SignalReprise().connect([this](const EltGeo* elt) { Dit('~' + Nom(elt)); });
     }
@@ -81,6 +81,7 @@ class Histoire {
         if (commande == "colle") Bdd.Coller(Bdd.PressePapier, p, static_cast<int>(N[2]));
         if (commande == "groupe") Bdd.CollerCommeBDD(Bdd.PressePapier, p, "vis");
         if (commande == "vis") Dit(Nom(Bdd.ChercheBDD("vis")));
+        if (commande == "trait") Bdd.ChangeTraitZone(zone, Large);
         if (commande == "sauve") Bdd.SauveTexte();
         if (commande == "vide") Bdd.Vide();
     }
@@ -96,6 +97,7 @@ class Histoire {
         for (const EltGeo* fils : elt.Fils)
             details += '(' + Nom(fils) + ')';
         if (elt.NbParents != 0) details += '/' + std::to_string(elt.NbParents);
+        if (elt.Style.Epaisseur != 1) details += 't';
         if (elt.Calque != 0) details += ':' + std::to_string(elt.Calque);
         return details;
     }
@@ -103,6 +105,7 @@ class Histoire {
     void DitSi(bool fait) { Dit(fait ? "oui" : "non"); }
 
     BDDGeo Bdd;
+    Trait Large;
     std::map<std::string, EltGeo*> Elements;
     std::vector<EltGeo*> E;  ///< Those of the line.
     std::vector<double> N;   ///< Its numbers.
@@ -124,59 +127,17 @@ TEST(BDDGeo, SelonLHistoire) {
     ExigeFichier(nom, vues);
 }
 
-TEST(BDDGeo, StylesEtCalques) {
-    BDDGeo bdd;
-    bdd.Ajoute(EltSegment({0, 0}, {10, 0}, 0));
-    EltGeo* c = bdd.Ajoute(EltGeo({5, 3}, 3));
-    Trait bleu, rouge;
-    bleu.Couleur = Gdk::Color("#0000ff");
-    rouge.Couleur = Gdk::Color("#ff0000");
-    bdd.Modifie = false;
-    bdd.ChangeTraitZone(EltRectangle({6, -5}, {4, 5}, 0), bleu);
-    bdd.SetCalqueAffiche(3);
-    bdd.ChangeTraitZone(EltRectangle({5, -5}, {-5, 5}, 0), rouge);  // On the edge is not inside.
-    EXPECT_EQ(c->Style.Couleur, bleu.Couleur);
-    bdd.ChangeTraitZone(EltRectangle({-50, 50}, {50, -50}, 0), rouge);
-    EXPECT_FALSE(bdd.Modifie);
-    EXPECT_TRUE(bdd.AEnregistrer());
-    const auto vu = [&bdd](int x, int y) {
-        const Toile toile;
-        TraceEcran trace = toile.Pinceau();
-        bdd.Dessine(trace);
-        return Vu(toile.Lit(), 100 + x, 80 - y);
-    };
-    EXPECT_EQ(vu(5, 3), Rouge);
-    EXPECT_EQ(vu(8, 0), Blanc);
-    bdd.SetCalqueAffiche(-1);
-    EXPECT_EQ(vu(8, 0), Bleu);
-    EXPECT_EQ(vu(5, 0), Bleu);  // The cross lies underneath, until it is brought forward.
-    EXPECT_TRUE(bdd.Avant({5, 8}));
-    EXPECT_EQ(vu(5, 0), Rouge);
-}
-
 namespace {
 
-std::unique_ptr<EltGeo> AuHasard(Hasard& hasard) {
-    // Whole numbers now and then, so that elements coincide and share their ends.
-    const bool entiers = hasard.Entier(2) == 0;
-    const auto point = [&] {
-        return entiers ? PointVek(10 * hasard.Entier(20), 10 * hasard.Entier(20))
-                       : hasard.Point(200);
-    };
-    const PointVek a = point(), b = point();
-    const int calque = hasard.Entier(3);
-    switch (hasard.Entier(5)) {
-        case 0:
-            return std::make_unique<EltArc>(a, entiers ? 20 : hasard.Reel(1, 80), 0, 3, calque);
-        case 1:
-            return std::make_unique<EltRectangle>(a, b, calque);
-        case 2:
-            return std::make_unique<EltDroite>(a, b, calque);
-        case 3:
-            return std::make_unique<EltGeo>(a, calque);
-        default:
-            return std::make_unique<EltSegment>(a, b, calque);
-    }
+/// An element of a drawing of all kinds, elsewhere; whole tens away now and then, so that elements
+/// coincide and share their ends.
+std::unique_ptr<EltGeo> AuHasard(Hasard& hasard, const BDDGeoBase& modeles) {
+    auto elt =
+        (*std::next(modeles.Elements.begin(), hasard.Entier(modeles.Elements.Nombre())))->Clone();
+    const PointVek dizaines(10 * hasard.Entier(20), 10 * hasard.Entier(20));
+    elt->Deplace(hasard.Entier(2) ? dizaines : hasard.Point(200));
+    elt->Calque = hasard.Entier(3);
+    return elt;
 }
 
 EltGeo* ChercheUnParUn(const BDDGeo& bdd, const PointVek& p, bool support, const EltGeo* sauf) {
@@ -206,7 +167,8 @@ std::vector<unsigned> Image(const BDDGeo& bdd, bool toutes) {
 
 TEST(BDDGeo, ChercheEtDessineCommeUnParcoursComplet) {
     Hasard hasard(4);
-    BDDGeo bdd;
+    BDDGeo bdd, modeles;
+    modeles.ChargeTexte(Contenu(KRVEK_ESSAIS "/model/data/feuille.vek"));
     int trouves = 0;
     for (int tour = 0; tour < 1500; ++tour) {
         SCOPED_TRACE(tour);
@@ -224,7 +186,7 @@ TEST(BDDGeo, ChercheEtDessineCommeUnParcoursComplet) {
             bdd.Change(*elt, *deplace);
         }
         for (int i = 4; i < quoi; ++i)
-            bdd.Ajoute(AuHasard(hasard));
+            bdd.Ajoute(AuHasard(hasard, modeles));
         bdd.SetCalqueAffiche(hasard.Entier(4) - 1);
         ASSERT_EQ(bdd.Cherche(p), ChercheUnParUn(bdd, p, false, nullptr));
         for (const bool support : {false, true}) {

@@ -2,15 +2,11 @@
 
 #include "model/recuperation.h"
 
-#include <glib/gstdio.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
+#include <memory>
 
 #include "commun/record.h"
 #include "elements/eltsegment.h"
@@ -21,229 +17,136 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string DossierNeuf() {
-    char modele[] = "/tmp/krvek-secours-XXXXXX";
-    return std::string(g_mkdtemp(modele)) + "/a/b";
-}
+const char NomEtrange[] =
+    "/tmp/pi\n\xe8"
+    "ce 100%.vek";
 
 void Dessine(BDDGeo& bdd, int nombre = 1) {
     for (int i = 0; i < nombre; ++i)
         bdd.Ajoute(EltSegment({0.0, i * 5.0}, {10.0, i * 5.0}, 0));
 }
 
-/// A program that draws under the net until it is killed; it answers once its copy is written.
-pid_t Lance(const std::string& dossier) {
-    int tube[2];
-    EXPECT_EQ(pipe(tube), 0);
-    const pid_t enfant = fork();
-    if (enfant == 0) {
-        BDDGeo bdd;
-        Recuperation secours(bdd, dossier);
-        bdd.NomFichier =
-            "/tmp/pi\n\xe8"
-            "ce 100%.vek";
-        Dessine(bdd, 3);
-        const char ecrit = secours.Passe() ? 'o' : 'n';
-        [[maybe_unused]] const auto dit = write(tube[1], &ecrit, 1);
-        pause();
-        _exit(0);
+/// A drawing under the net, in a folder of its own that the net makes.
+class Secours : public testing::Test {
+  protected:
+    ~Secours() override { fs::remove_all(Racine); }
+
+    /// The running copies.
+    std::vector<std::string> EnCours() const {
+        std::vector<std::string> copies;
+        for (const auto& entree : fs::directory_iterator(Dossier))
+            if (entree.path().extension() == ".vek") copies.push_back(entree.path().string());
+        return copies;
     }
-    char reponse = 'n';
-    EXPECT_EQ(read(tube[0], &reponse, 1), 1);
-    EXPECT_EQ(reponse, 'o');
-    close(tube[0]);
-    close(tube[1]);
-    return enfant;
-}
+
+    const std::string Racine = std::string(std::getenv("HOME")) + "/secours";
+    const std::string Dossier = Racine + "/a/b";
+    BDDGeo Bdd;
+    Recuperation Net{Bdd, Dossier};
+};
 
 }  // namespace
 
-TEST(Recuperation, CeQuUnProgrammeTueALaisse) {
-    const std::string dossier = DossierNeuf();
-    const pid_t enfant = Lance(dossier);
-    BDDGeo bdd;
-    Recuperation secours(bdd, dossier);
-    Dessine(bdd);
-    EXPECT_TRUE(secours.Passe());
-    EXPECT_TRUE(secours.Orphelines().empty()) << "the other program lives";
-    kill(enfant, SIGKILL);
-    waitpid(enfant, nullptr, 0);
-    const auto copies = secours.Orphelines();
+TEST_F(Secours, CeQuUnProgrammeTueALaisse) {
+    BDDGeo voisin;
+    voisin.NomFichier = NomEtrange;
+    Dessine(voisin, 3);
+    auto autre = std::make_unique<Recuperation>(voisin, Dossier);
+    EXPECT_TRUE(autre->Passe());
+    Dessine(Bdd);
+    EXPECT_TRUE(Net.Passe());
+    EXPECT_TRUE(Net.Orphelines().empty()) << "the other program lives";
+    // Its lock goes with it, however it ends.
+    autre.reset();
+    const auto copies = Net.Orphelines();
     ASSERT_EQ(copies.size(), 1u);
-    EXPECT_EQ(copies[0].Nom,
-              "/tmp/pi\n\xe8"
-              "ce 100%.vek");
+    EXPECT_EQ(copies[0].Nom, NomEtrange);
+    EXPECT_EQ(copies[0].Raison, "Travail non enregistré");
     EXPECT_EQ(copies[0].Elements, 3);
-    struct stat etat = {};
-    ASSERT_EQ(stat(copies[0].Fichier.c_str(), &etat), 0);
-    EXPECT_EQ(etat.st_mode & 0777, 0600u);
-    {
-        Recuperation autre(bdd, dossier);
-        EXPECT_TRUE(autre.Orphelines().empty()) << "it is the first one's now";
-    }
+    EXPECT_LE(std::abs(copies[0].Date - std::time(nullptr)), 60);
+    EXPECT_EQ(fs::status(copies[0].Fichier).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(fs::status(Dossier).permissions(), fs::perms::owner_all);
+    EXPECT_TRUE(Recuperation(Bdd, Dossier).Orphelines().empty()) << "it is the first one's now";
+
     BDDGeo reprise;
+    Dessine(reprise, 2);
     reprise.Recupere(Recuperation::Texte(copies[0]), copies[0].Nom);
     EXPECT_EQ(reprise.Elements.Nombre(), 3);
-    EXPECT_TRUE(reprise.AEnregistrer() && !reprise.Nomme);
-    secours.RangeOrphelines();
-    EXPECT_TRUE(secours.Orphelines().empty());
-    EXPECT_EQ(secours.Gardees().size(), 1u);
-    secours.Oublie();
-    EXPECT_EQ(secours.Gardees().size(), 1u);
-    fs::remove_all(dossier);
+    EXPECT_EQ(reprise.NomFichier, NomEtrange);
+    EXPECT_TRUE(reprise.Modifie && !reprise.Nomme);
+    reprise.SauveTexte();
+    EXPECT_TRUE(reprise.AEnregistrer());
+    Net.RangeOrphelines();
+    EXPECT_TRUE(Net.Orphelines().empty());
+    Net.Oublie();
+    ASSERT_EQ(Net.Gardees().size(), 1u);
+    EXPECT_EQ(Net.Gardees()[0].Nom, NomEtrange);
+    EXPECT_EQ(std::distance(fs::directory_iterator(Dossier), {}), 2) << "the copy and its own lock";
 }
 
-TEST(Recuperation, NEcritQueCeQuiEstNouveauEtAssezTard) {
-    const std::string dossier = DossierNeuf();
-    const auto ecrites = [&dossier] {
-        int nombre = 0;
-        for (const auto& entree : fs::directory_iterator(dossier))
-            nombre += entree.path().extension() == ".vek";
-        return nombre;
-    };
-    BDDGeo bdd;
-    Recuperation secours(bdd, dossier);
-    EXPECT_TRUE(secours.Passe());
-    EXPECT_FALSE(fs::exists(dossier)) << "nothing is unsaved";
-    Dessine(bdd);
-    EXPECT_TRUE(secours.Passe());
-    ASSERT_EQ(ecrites(), 1);
-    const std::string copie = [&] {
-        for (const auto& entree : fs::directory_iterator(dossier))
-            if (entree.path().extension() == ".vek") return entree.path().string();
-        return std::string();
-    }();
-    const std::string premiere = Contenu(copie);
-    Dessine(bdd);
-    EXPECT_TRUE(secours.Passe());
+TEST_F(Secours, NEcritQueCeQuiEstNouveauEtAssezTard) {
+    EXPECT_TRUE(Net.Passe());
+    EXPECT_FALSE(fs::exists(Dossier)) << "nothing is unsaved";
+    Dessine(Bdd);
+    EXPECT_TRUE(Net.Passe());
+    ASSERT_EQ(EnCours().size(), 1u);
+    const std::string copie = EnCours()[0], premiere = Contenu(copie);
+    Dessine(Bdd);
+    EXPECT_TRUE(Net.Passe());
     EXPECT_EQ(Contenu(copie), premiere) << "too soon";
-    secours.Intervalle = 0.0;
-    EXPECT_TRUE(secours.Ecrit("Arrêt du programme"));
-    EXPECT_NE(Contenu(copie), premiere);
-    const std::string fichier = dossier + "/../dessin.vek";
-    ASSERT_TRUE(bdd.EnregistreSous(fichier));
-    secours.Oublie();
-    EXPECT_EQ(ecrites(), 0);
-    EXPECT_TRUE(secours.Ecrit("Arrêt du programme"));
-    EXPECT_EQ(ecrites(), 0) << "all is saved";
-    bdd.Annule();
-    EXPECT_TRUE(secours.Ecrit("Arrêt du programme"));
-    EXPECT_EQ(ecrites(), 1) << "an undo is unsaved work";
-    fs::remove_all(dossier);
+    EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
+    const std::string seconde = Contenu(copie);
+    EXPECT_NE(seconde, premiere);
+    EXPECT_TRUE(EcritFichier(copie, "rien"));
+    EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
+    EXPECT_EQ(Contenu(copie), "rien") << "nothing new";
+    Dessine(Bdd);
+    Net.Intervalle = 0.0;
+    // Fifty times what the last one took must go by.
+    for (int i = 0; i < 500 && Contenu(copie) == "rien"; ++i) {
+        usleep(10000);
+        EXPECT_TRUE(Net.Passe());
+    }
+    EXPECT_NE(Contenu(copie), "rien");
+
+    ASSERT_TRUE(Bdd.EnregistreSous(Racine + "/dessin.vek"));
+    Net.Oublie();
+    EXPECT_TRUE(EnCours().empty());
+    EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
+    EXPECT_TRUE(Net.Garde("Remplacé sans être enregistré"));
+    EXPECT_TRUE(EnCours().empty()) << "all is saved";
+    Bdd.Annule();
+    EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
+    EXPECT_EQ(EnCours().size(), 1u) << "an undo is unsaved work";
 }
 
-TEST(Recuperation, GardeLesPlusNeuvesParmiNImporteQuoi) {
-    const std::string dossier = DossierNeuf();
-    ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
-    const char* const etrangers[] = {"copie-.vek",      "copie-99999999999999999999-1.vek",
-                                     "copie-abc.vek",   "copie--1.vek",
-                                     "encours-zut.vek", "lettre.txt"};
-    for (const char* nom : etrangers)
-        ASSERT_TRUE(EcritFichier(dossier + "/" + nom, "\n#copie de secours\ndate -7\nnom xzz\n"));
-    fs::create_directory(dossier + "/copie-000000099-1.vek");
-    fs::create_symlink("/dev/zero", dossier + "/copie-000000098-1.vek");
-    BDDGeo bdd;
-    Recuperation secours(bdd, dossier);
+TEST_F(Secours, GardeLesPlusNeuvesParmiNImporteQuoi) {
+    fs::create_directories(Dossier);
+    for (const char* nom : {"copie-.vek", "copie-abc.vek", "encours-zut.vek", "lettre.txt"})
+        ASSERT_TRUE(EcritFichier(Dossier + "/" + nom, "\n#copie de secours\ndate -7\nnom xzz\n"));
+    fs::create_directory(Dossier + "/copie-000000099-1.vek");
+    fs::create_symlink("/dev/zero", Dossier + "/copie-000000098-1.vek");
     for (int i = 0; i < 40; ++i) {
-        Dessine(bdd);
-        ASSERT_TRUE(secours.Garde("Remplacé sans être enregistré"));
+        Dessine(Bdd);
+        ASSERT_TRUE(Net.Garde("Remplacé sans être enregistré"));
+        ASSERT_TRUE(Net.Garde("Une fois")) << "once for each state of it";
     }
-    const auto copies = secours.Gardees();
+    const auto copies = Net.Gardees();
     ASSERT_EQ(copies.size(), Recuperation::NombreMax);
     EXPECT_EQ(copies.front().Elements, 40) << "the newest first";
+    EXPECT_EQ(copies.front().Raison, "Remplacé sans être enregistré");
     EXPECT_EQ(copies.back().Elements, 11);
-    EXPECT_EQ(secours.Orphelines().size(), 0u);
-    for (const char* nom : etrangers)
-        EXPECT_TRUE(fs::exists(dossier + "/" + nom)) << "what others put there is theirs";
-    // One that is too large drives out none of the others.
-    fs::resize_file(copies[3].Fichier, Recuperation::TailleMax + 1);
-    Dessine(bdd);
-    ASSERT_TRUE(secours.Garde("Remplacé sans être enregistré"));
-    EXPECT_EQ(secours.Gardees().size(), Recuperation::NombreMax - 1);
-    EXPECT_EQ(secours.Gardees().front().Elements, 41);
-    Recuperation::Jette(secours.Gardees().front());
+    EXPECT_EQ(Net.Orphelines().size(), 1u);
+    EXPECT_TRUE(fs::exists(Dossier + "/lettre.txt"));
     Recuperation::Jette(copies.front());
-    EXPECT_EQ(secours.Gardees().front().Elements, 39);
-    fs::remove_all(dossier);
+    EXPECT_EQ(Net.Gardees().front().Elements, 39);
 
     // Where no folder can be made the work goes on without.
-    ASSERT_TRUE(EcritFichier(dossier, "a file"));
-    Recuperation sans(bdd, dossier);
+    fs::remove_all(Dossier);
+    ASSERT_TRUE(EcritFichier(Dossier, "a file"));
+    Recuperation sans(Bdd, Dossier);
+    Dessine(Bdd);
     EXPECT_FALSE(sans.Passe());
     EXPECT_FALSE(sans.Garde("Remplacé sans être enregistré"));
-    fs::remove_all(dossier);
-}
-
-TEST(Travail, UnEchecLaisseLeTravailAEnregistrer) {
-    const std::string dossier = DossierNeuf();
-    ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
-    const std::string nom = dossier + "/d.vek";
-    BDDGeo bdd;
-    Dessine(bdd, 2);
-    EXPECT_FALSE(bdd.EnregistreSous(dossier + "/absent/d.vek"));
-    EXPECT_EQ(errno, ENOENT);
-    EXPECT_TRUE(bdd.AEnregistrer());
-    EXPECT_TRUE(bdd.EnregistreSous(nom));
-    EXPECT_FALSE(bdd.AEnregistrer());
-    bdd.Annule();
-    EXPECT_FALSE(bdd.Modifie);
-    EXPECT_TRUE(bdd.AEnregistrer());
-    EXPECT_TRUE(bdd.Enregistre());
-    EXPECT_FALSE(bdd.AEnregistrer());
-
-    // A link leads to the file, which is replaced whole; what it was not read from keeps a copy.
-    fs::create_symlink("d.vek", dossier + "/lien.vek");
-    fs::create_symlink("lien.vek", dossier + "/lien2.vek");
-    ASSERT_TRUE(EcritFichier(nom, "VERSION2.3\nold"));
-    fs::permissions(nom, fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read);
-    bdd.Original = nom;
-    for (int fois = 0; fois < 2; ++fois) {
-        ASSERT_TRUE(bdd.EnregistreSous(dossier + "/lien2.vek"));
-        EXPECT_EQ(Contenu(nom).substr(0, 10), "VERSION3.3");
-        EXPECT_EQ(Contenu(nom + "~"), "VERSION2.3\nold");
-        EXPECT_FALSE(fs::exists(nom + "~1~"));
-    }
-    EXPECT_TRUE(fs::is_symlink(dossier + "/lien2.vek"));
-    EXPECT_EQ(fs::status(nom + "~").permissions(), fs::status(nom).permissions());
-    // Nor is what another program has written there meanwhile lost.
-    ASSERT_TRUE(EcritFichier(nom, "VERSION3.3\n1\n10000\n-1\n"));
-    ASSERT_TRUE(bdd.Enregistre());
-    EXPECT_EQ(Contenu(nom + "~"), "VERSION2.3\nold");
-    EXPECT_EQ(Contenu(nom + "~1~"), "VERSION3.3\n1\n10000\n-1\n");
-    // A file that was put back as it was holds nothing else.
-    ASSERT_TRUE(EcritFichier(nom, Contenu(nom)));
-    ASSERT_TRUE(bdd.Enregistre());
-    EXPECT_FALSE(fs::exists(nom + "~2~"));
-    fs::remove_all(dossier);
-}
-
-TEST(Travail, UnDisquePleinLaisseLAncienFichier) {
-    const std::string dossier = DossierNeuf(), nom = dossier + "/d.vek", lien = dossier + "/l.vek";
-    ASSERT_EQ(g_mkdir_with_parents(dossier.c_str(), 0700), 0);
-    fs::create_symlink("d.vek", lien);
-    BDDGeo bdd;
-    Recuperation secours(bdd, dossier + "/secours");
-    Dessine(bdd);
-    ASSERT_TRUE(bdd.EnregistreSous(lien));
-    const std::string avant = Contenu(nom);
-    Dessine(bdd, 200);
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit libre = {};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &libre), 0);
-    const rlimit plein = {4096, libre.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &plein), 0);
-    const bool ecrit = bdd.Enregistre();
-    const int erreur = errno;
-    const bool garde = secours.Ecrit("Enregistrement impossible");
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &libre), 0);
-    EXPECT_FALSE(ecrit || garde);
-    EXPECT_EQ(erreur, EFBIG);
-    EXPECT_EQ(Contenu(nom), avant);
-    EXPECT_TRUE(bdd.AEnregistrer());
-    EXPECT_TRUE(bdd.Enregistre());
-    EXPECT_TRUE(fs::is_symlink(lien));
-    EXPECT_GT(Contenu(nom).size(), 10000u);
-    for (const auto& entree : fs::recursive_directory_iterator(dossier))
-        EXPECT_EQ(entree.path().string().find(".vek."), std::string::npos) << "half a file";
-    fs::remove_all(dossier);
 }
