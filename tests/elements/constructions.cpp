@@ -1,15 +1,13 @@
 // What each construction makes, worked out by hand in data/constructions.txt: a line for each, the
 // result behind "=". The lines are played a second time in a drawing that is turned and shifted,
-// and must give the same there.
+// and must give the same there, but for those behind "-", which keep to the axes or hang on a tie.
 
 #include <algorithm>
 #include <functional>
 #include <map>
-#include <sstream>
 #include <tuple>
 #include <vector>
 
-#include "commun/record.h"
 #include "elements/angles.h"
 #include "elements/ecrivain.h"
 #include "elements/eltarc.h"
@@ -21,6 +19,7 @@
 #include "elements/intersections.h"
 #include "elements/traceetendue.h"
 #include "model/registre.h"
+#include "table.h"
 #include "toile.h"
 #include "verifie.h"
 
@@ -327,33 +326,18 @@ const std::map<std::string, Construction> Constructions = {
     {"ligne", Regle(&EltCote::PlaceLigne)},
 };
 
-/// The table with its results as they come out; where the drawing is turned, those of the lines
-/// that begin with "-", which keep to the axes or hang on a tie, stay as they are.
-std::string Joue(const std::string& table, double rotation, const PointVek& decalage) {
-    std::istringstream lignes(table);
-    std::string texte, vues;
-    while (std::getline(lignes, texte)) {
-        const std::string question = texte.substr(0, texte.find(" ="));
-        Ligne ligne(question, rotation, decalage);
-        std::string mot = ligne.Mot();
-        const bool fixe = mot == "-";
-        if (fixe) mot = ligne.Mot();
-        if (mot.empty() || mot[0] == '#' || (fixe && rotation != 0.0)) {
-            vues += texte + '\n';
-            continue;
-        }
-        SCOPED_TRACE(question);
-        Constructions.at(mot)(ligne);
-        vues += question + " =" + ligne.Dits + '\n';
-    }
-    return vues;
-}
-
 }  // namespace
 
 TEST(Constructions, SelonLaTable) {
-    const std::string nom = "elements/data/constructions.txt";
-    const std::string table = Contenu(std::string(KRVEK_ESSAIS "/") + nom);
-    ExigeFichier(nom, Joue(table, 0.0, {}));
-    ExigeFichier(nom, Joue(table, 0.7, {310.5, -47.25, 0}));
+    for (const double rotation : {0.0, 0.7})
+        ExigeTable("elements/data/constructions.txt",
+                   [rotation](const std::string& question, const std::string& attendu) {
+                       Ligne ligne(question, rotation, PointVek(310.5, -47.25) * rotation);
+                       std::string mot = ligne.Mot();
+                       const bool fixe = mot == "-";
+                       if (fixe) mot = ligne.Mot();
+                       if (fixe && rotation != 0.0) return attendu;
+                       Constructions.at(mot)(ligne);
+                       return ligne.Dits;
+                   });
 }

@@ -120,30 +120,10 @@ TEST(EltProfil, LointainEtImmense) {
         EXPECT_EQ(Vu(image, 98, 3), Bleu);
         EXPECT_EQ(Vu(image, 102, 150), Blanc);
     }
-    // So large an arc that the eye takes it for straight.
-    for (const double rayon : {1e6, 1e12, 1e200}) {
-        EltProfil profil;
-        profil.Debut({0, 50});
-        profil.Ferme = false;
-        profil.Ajoute({-40, 0});
-        profil.Ajoute({40, 7});
-        const auto droit = Peint(profil);
-        profil.Sommets[1] = SommetProfil(profil.Sommets[1], rayon);
-        EXPECT_TRUE(Peint(profil) == droit);
-    }
     EltProfil profil;
     // The time that a surface takes is bounded, however many vertices it has.
-    profil.Sommets.clear();
     profil.Style.Remplissage = true;
     for (int i = 0; i < 100000; ++i)
         profil.Sommets.emplace_back(PointVek(i * 0.0018 - 90, i % 2 * 120 - 60));
     Peint(profil);
-
-    // What bulges beyond the vertices is found and repainted.
-    profil.Debut({0, 0});
-    profil.Ajoute({0, 0});
-    profil.Sommets.emplace_back(PointVek(100, 0), 50);
-    EXPECT_TRUE(profil.MinorantDistance().PeutToucher({40, 45, 60, 49}));
-    profil.Sommets = {SommetProfil({0, 0}, 50), SommetProfil(PointVek(100, 0))};
-    EXPECT_TRUE(profil.MinorantDistance().PeutToucher({40, -49, 60, -45})) << "the closing link";
 }

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "commun/hasard.h"
-#include "commun/record.h"
 #include "elements/eltrectangle.h"
+#include "elements/table.h"
 #include "elements/toile.h"
 #include "model/eltbdd.h"
 
@@ -115,16 +115,10 @@ class Histoire {
 }  // namespace
 
 TEST(BDDGeo, SelonLHistoire) {
-    const std::string nom = "model/data/histoire.txt";
-    std::istringstream lignes(Contenu(std::string(KRVEK_ESSAIS "/") + nom));
-    std::string ligne, vues;
     Histoire histoire;
-    while (std::getline(lignes, ligne)) {
-        const std::string commande = ligne.substr(0, ligne.find(" ="));
-        const bool muette = ligne.empty() || ligne[0] == '#';
-        vues += (muette ? ligne : commande + " =" + histoire.Joue(commande)) + '\n';
-    }
-    ExigeFichier(nom, vues);
+    ExigeTable("model/data/histoire.txt", [&histoire](const std::string& commande, const auto&) {
+        return histoire.Joue(commande);
+    });
 }
 
 namespace {

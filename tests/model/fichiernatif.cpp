@@ -5,17 +5,16 @@
 
 #include <cmath>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "commun/hasard.h"
 #include "commun/mutation.h"
-#include "commun/record.h"
 #include "elements/eltarc.h"
 #include "elements/eltdroite.h"
 #include "elements/lecteur.h"
+#include "elements/table.h"
 #include "elements/toile.h"
 #include "model/bddgeo.h"
 
@@ -95,14 +94,9 @@ TEST(FichierNatif, OctetPourOctet) {
     // Read right, and not only written as it was read.
     EXPECT_EQ(elts[0]->NbParents, 1);
     const auto& disque = *static_cast<EltArc*>(elts[3]);
-    EXPECT_EQ(disque.Calque, 0);
-    EXPECT_EQ(disque.Style.Epaisseur, 1);
     EXPECT_EQ(disque.Style.StyleLigne, Pointille);
     EXPECT_EQ(disque.Rayon, 1234.57);
-    EXPECT_EQ(disque.Ouverture, -1.5);
-    EXPECT_TRUE(disque.Style.Remplissage && disque.Style.Hachure == 1 && !disque.Style.Contour);
-    EXPECT_EQ(disque.Style.AngleHachure, 0.785398);
-    EXPECT_EQ(disque.Style.Couleur, Gdk::Color("#00ff00"));
+    EXPECT_TRUE(disque.Style.Remplissage && !disque.Style.Contour);
     // A child of another drawing is written as one that is nowhere.
     EltGeo ailleurs;
     elts[0]->AjouteFils(&ailleurs);
@@ -114,38 +108,26 @@ TEST(FichierNatif, OctetPourOctet) {
 }
 
 TEST(FichierNatif, LecturesSelonLaTable) {
-    const std::string nom = "model/data/lectures.txt";
     const std::string chemin = std::string(getenv("HOME")) + "/lecture.vek";
-    std::istringstream lignes(Contenu(std::string(KRVEK_ESSAIS "/") + nom));
-    std::string ligne, vues;
-    while (std::getline(lignes, ligne)) {
-        const std::string question = ligne.substr(0, ligne.find(" ="));
-        if (ligne[0] == '#') {
-            vues += ligne + '\n';
-            continue;
-        }
+    ExigeTable("model/data/lectures.txt", [&chemin](const std::string& question, const auto&) {
         std::ofstream(chemin) << Texte(question);
         BDDGeo bdd;
         bdd.Ouvre(chemin);
-        vues += question + " = " + Resume(bdd.Lecture) + " |";
+        EXPECT_EQ(bdd.Original.empty(), bdd.Lecture.RienPerdu());
+        std::string vu = ' ' + Resume(bdd.Lecture) + " |";
         for (const EltGeo* elt : bdd.Elements)
-            vues += elt->Type == TypeSegment ? ' ' + std::to_string(std::lround(elt->Position.x))
-                                             : " group";
+            vu += ' ' +
+                  (elt->Type == TypeBDD ? "group" : std::to_string(std::lround(elt->Position.x)));
         // What could be read is written, and that text reads the same.
         const std::string texte = bdd.SauveTexte();
+        bdd.ChargeTexte(texte);
+        EXPECT_EQ(bdd.SauveTexte(), texte);
         std::istringstream liens(texte.substr(texte.rfind("10000\n") + 6));
-        std::vector<std::string> mots(std::istream_iterator<std::string>(liens), {});
-        mots.pop_back();
-        vues += " |";
-        for (const std::string& mot : mots)
-            vues += ' ' + mot;
-        vues += '\n';
-        BDDGeo relu;
-        relu.ChargeTexte(texte);
-        EXPECT_EQ(relu.SauveTexte(), texte) << question;
-        EXPECT_EQ(bdd.Original.empty(), bdd.Lecture.RienPerdu()) << question;
-    }
-    ExigeFichier(nom, vues);
+        vu += " |";
+        for (std::string mot; liens >> mot && !liens.eof();)
+            vu += ' ' + mot;
+        return vu.substr(0, vu.rfind(" -1"));
+    });
 }
 
 TEST(FichierNatif, MessageDeVersionUneFois) {
@@ -163,13 +145,15 @@ TEST(FichierNatif, MessageDeVersionUneFois) {
     EXPECT_EQ(bdd.Lecture.Fichier, BilanLecture::PasUnDessin);
     EXPECT_FALSE(bdd.Annule());
     // Words that are no text for the toolkit, or far too long.
+    const std::string longue(5000000, 'x');
     EXPECT_EQ(Messages([&] {
                   bdd.ChargeTexte(
                       "PI\xc8"
                       "CE<b> 3");
               }),
               std::vector<std::string>{annonce + "PIÈCE<b> reçue"});
-    EXPECT_EQ(Messages([&] { bdd.ChargeTexte(std::string(5000000, 'x')); }).size(), 1u);
+    EXPECT_EQ(Messages([&] { bdd.ChargeTexte(longue); }),
+              std::vector<std::string>{annonce + longue.substr(0, 60) + "… reçue"});
     // A file that is not there, or is a folder, says nothing.
     EXPECT_TRUE(Messages([&] {
                     bdd.Ouvre(chemin + "/rien");
