@@ -1,5 +1,5 @@
 // What each construction makes, worked out by hand in data/constructions.txt: a line for each, the
-// result behind "=". The lines are played a second time in a drawing that is turned and shifted,
+// result behind "=". The lines are played again in drawings that are turned and shifted,
 // and must give the same there, but for those behind "-", which keep to the axes or hang on a tie.
 
 #include <algorithm>
@@ -8,6 +8,7 @@
 #include <tuple>
 #include <vector>
 
+#include "commun/record.h"
 #include "elements/angles.h"
 #include "elements/ecrivain.h"
 #include "elements/eltarc.h"
@@ -17,6 +18,7 @@
 #include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
 #include "elements/intersections.h"
+#include "elements/lecteur.h"
 #include "elements/traceetendue.h"
 #include "model/registre.h"
 #include "table.h"
@@ -297,6 +299,25 @@ const std::map<std::string, Construction> Constructions = {
          l.Dit(cote.TexteValeur());
          NbDecimales = 2;
      }},
+    {"relue",
+     [](Ligne& l) {
+         const std::string record = Record(*l.Element());
+         Lecteur entree(record);
+         int type = 0;
+         entree >> type;
+         const auto relu = CreeElement(type);
+         relu->Charge(entree);
+         l.Dit(std::stod(static_cast<EltCote&>(*relu).TexteValeur()));
+     }},
+    {"semblables",
+     [](Ligne& l) {
+         const auto elt = l.Element();
+         auto& cote = static_cast<EltCote&>(*elt);
+         cote.Texte = l.Mot();
+         const auto image = Peint(cote);
+         cote.Texte = l.Mot();
+         l.Dit(Peint(cote) == image ? "oui" : "non");
+     }},
     {"projete", Question(&EltSegment::Projete)},
     {"contient", Question(&EltRectangle::Contient)},
     {"place", Regle(&EltGeo::Place)},
@@ -329,15 +350,15 @@ const std::map<std::string, Construction> Constructions = {
 }  // namespace
 
 TEST(Constructions, SelonLaTable) {
-    for (const double rotation : {0.0, 0.7})
-        ExigeTable("elements/data/constructions.txt",
-                   [rotation](const std::string& question, const std::string& attendu) {
-                       Ligne ligne(question, rotation, PointVek(310.5, -47.25) * rotation);
-                       std::string mot = ligne.Mot();
-                       const bool fixe = mot == "-";
-                       if (fixe) mot = ligne.Mot();
-                       if (fixe && rotation != 0.0) return attendu;
-                       Constructions.at(mot)(ligne);
-                       return ligne.Dits;
-                   });
+    for (double rotation = 0.0; rotation < 14.0; rotation += 0.7)
+        ExigeTable("elements/data/constructions.txt", [rotation](const std::string& question,
+                                                                 const std::string& attendu) {
+            Ligne ligne(question, rotation, PointVek(310.5, -47.25) * std::sin(rotation));
+            std::string mot = ligne.Mot();
+            const bool fixe = mot == "-";
+            if (fixe) mot = ligne.Mot();
+            if (fixe && rotation != 0.0) return attendu;
+            Constructions.at(mot)(ligne);
+            return ligne.Dits;
+        });
 }
