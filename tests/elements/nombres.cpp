@@ -1,8 +1,10 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
 #include "elements/ecrivain.h"
 #include "elements/lecteur.h"
 #include "elements/trait.h"
-#include "model/echelle.h"
-#include "verifie.h"
 
 TEST(Nombres, FormeDesFichiers) {
     Ecrivain sortie;
@@ -29,15 +31,6 @@ TEST(Nombres, CeQuiNeSeLitPasLaisseLaValeur) {
     entree >> n;
     EXPECT_TRUE(entree.Echec());
     EXPECT_EQ(n, 12);
-}
-
-TEST(Nombres, ProjectionSuitLaTolerance) {
-    // A line 0.002 long has a direction at this zoom, and none an eighth as near.
-    EXPECT_POINT(Projection({7, 3}, {0, 0}, {0.002, 0}), 7, 0);
-    for (int i = 0; i < 3; ++i)
-        EchelleCourante.ZoomMoins();
-    EXPECT_POINT(Projection({7, 3}, {0, 0}, {0.002, 0}), 0.001, 0);
-    EchelleCourante.ZoomInit();
 }
 
 TEST(Trait, BornesDesReglages) {

@@ -11,6 +11,7 @@
 #include "elements/eltdroite.h"
 #include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
+#include "elements/elttxt.h"
 #include "elements/traceetendue.h"
 #include "elements/tracepage.h"
 #include "model/bddgeobase.h"
@@ -278,6 +279,34 @@ TEST(Trace, LePapierMontreCeQueLEcranMontre) {
         EXPECT_EQ(SansPareil(ecran, papier), 0) << elt->Nom() << ' ' << style.StyleLigne;
         EXPECT_EQ(SansPareil(papier, ecran), 0) << elt->Nom() << ' ' << style.StyleLigne;
     }
+}
+
+TEST(Trace, UnTexteEstAncre) {
+    for (const bool centre : {false, true})
+        for (const int quarts : {0, 1, 2, 3}) {
+            EltTxt texte;
+            texte.Texte = "HOH";
+            texte.Taille = 20;
+            texte.Centre_ = centre;
+            texte.Angle = quarts * Pi / 2;
+            const Image ecran = Peint(texte), papier = Imprime(texte);
+            EXPECT_LT(SansPareil(ecran, papier) + SansPareil(papier, ecran), 40);
+            // Where its ink lies along the base side, and above it.
+            double u0 = 99, u1 = -99, v0 = 99, v1 = -99;
+            for (int y = 0; y < Toile::Hauteur; ++y)
+                for (int x = 0; x < Toile::Largeur; ++x) {
+                    PointVek p(x - 100, 80 - y);
+                    if (Vu(ecran, x, y) == Blanc || Norme(p) < 3) continue;
+                    p.Tourne(-texte.Angle);
+                    u0 = std::min(u0, p.x), u1 = std::max(u1, p.x);
+                    v0 = std::min(v0, p.y), v1 = std::max(v1, p.y);
+                }
+            EXPECT_NEAR(centre ? u0 + u1 : u0, 0, 4);
+            // Three bold capitals of 20 points at 96 dots an inch.
+            EXPECT_NEAR(u1 - u0, 60, 8);
+            EXPECT_NEAR(v1 - v0, 20, 3);
+            EXPECT_NEAR(v0, 6, 3);
+        }
 }
 
 TEST(Trace, LaPorteeTientCeQuiEstPeint) {
