@@ -60,8 +60,19 @@ class Ligne {
             return Mot() == "oui";
         else if constexpr (std::is_same_v<Type, PointVek>)
             return Point();
+        else if constexpr (std::is_same_v<Type, TransformeColle>)
+            return Collage();
         else
             return static_cast<const Type&>(*Lus.emplace_back(Element()));
+    }
+
+    /// Degrees, mirrors, factor.
+    TransformeColle Collage() {
+        const double angle = EnRadians(Nombre());
+        const std::string miroirs = Mot();
+        return {Nombre(),          angle,
+                std::cos(angle),   std::sin(angle),
+                miroirs[0] == 'x', miroirs.back() == 'y'};
     }
 
     bool Reste() { return (Mots >> std::ws).good(); }
@@ -174,17 +185,6 @@ std::vector<unsigned> Ensemble(Ligne& l) {
 
 using Construction = std::function<void(Ligne&)>;
 
-/// A method that answers something about its element.
-template <class Type, class Rendu, class... Args>
-Construction Question(Rendu (Type::*methode)(Args...) const) {
-    return [methode](Ligne& l) {
-        const auto& elt = l.Lit<Type>();
-        const std::tuple<decltype(l.Lit<std::decay_t<Args>>())...> args{
-            l.Lit<std::decay_t<Args>>()...};
-        l.Dit(std::apply([&](auto&... lus) { return (elt.*methode)(lus...); }, args));
-    };
-}
-
 /// A method that makes something of its element, or answers that it cannot, and then must have left
 /// it alone.
 template <class Type, class Rendu, class... Args>
@@ -227,20 +227,6 @@ const std::map<std::string, Construction> Constructions = {
          elt->DebutDeforme(l.Point());
          elt->Deforme(l.Vecteur());
          l.Dit(PoigneeCourante);
-         l.Dit(*elt);
-     }},
-    {"colle",
-     [](Ligne& l) {
-         const auto elt = l.Element();
-         TransformeColle t;
-         t.Angle = EnRadians(l.Nombre());
-         t.Cos = std::cos(t.Angle);
-         t.Sin = std::sin(t.Angle);
-         const std::string miroirs = l.Mot();
-         t.SymetrieX = miroirs.find('x') != std::string::npos;
-         t.SymetrieY = miroirs.find('y') != std::string::npos;
-         t.Agrandissement = l.Nombre();
-         elt->Transforme(t);
          l.Dit(*elt);
      }},
     {"croise",
@@ -318,8 +304,7 @@ const std::map<std::string, Construction> Constructions = {
          cote.Texte = l.Mot();
          l.Dit(Peint(cote) == image ? "oui" : "non");
      }},
-    {"projete", Question(&EltSegment::Projete)},
-    {"contient", Question(&EltRectangle::Contient)},
+    {"colle", Regle(&EltGeo::Transforme)},
     {"place", Regle(&EltGeo::Place)},
     {"deplace", Regle(&EltGeo::Deplace)},
     {"copie", Regle(&EltGeo::Copie)},

@@ -268,19 +268,6 @@ TEST(Trace, ExpositionsPartiellesFontLImage) {
     Compare(image, [](int x, int y) { return Si(x < 59 && 80 - y == x + 101); });
 }
 
-TEST(Trace, LePapierMontreCeQueLEcranMontre) {
-    const Echantillon tous;
-    for (const EltGeo* elt : tous.Elements) {
-        // Dots and tiles are others on paper, marks are none; dashes start elsewhere.
-        const Trait& style = elt->Style;
-        const bool marque = elt->Type == TypeGeo || elt->Type == TypeProfil || EstCote(*elt);
-        if (marque || style.StyleLigne != Continu || style.Hachure == 1) continue;
-        const Image ecran = Peint(*elt), papier = Imprime(*elt);
-        EXPECT_EQ(SansPareil(ecran, papier), 0) << elt->Nom() << ' ' << style.StyleLigne;
-        EXPECT_EQ(SansPareil(papier, ecran), 0) << elt->Nom() << ' ' << style.StyleLigne;
-    }
-}
-
 TEST(Trace, UnTexteEstAncre) {
     for (const bool centre : {false, true})
         for (const int quarts : {0, 1, 2, 3}) {
@@ -309,7 +296,7 @@ TEST(Trace, UnTexteEstAncre) {
         }
 }
 
-TEST(Trace, LaPorteeTientCeQuiEstPeint) {
+TEST(Trace, LaPorteeEtLePapierTiennentCeQuiEstPeint) {
     const Echantillon tous;
     for (const EltGeo* elt : tous.Elements) {
         // The decimals of a dimension may change without the element.
@@ -321,6 +308,12 @@ TEST(Trace, LaPorteeTientCeQuiEstPeint) {
         TraceEtendue trace;
         elt->Dessine(trace);
         NbDecimales = 2;
+        // Dots and tiles are others on paper, marks are none; dashes start elsewhere.
+        const bool marque = elt->Type == TypeGeo || elt->Type == TypeProfil || EstCote(*elt);
+        if (!marque && elt->Style.StyleLigne == Continu && elt->Style.Hachure == 0) {
+            const Image papier = Imprime(*elt);
+            EXPECT_EQ(SansPareil(image, papier) + SansPareil(papier, image), 0) << elt->Nom();
+        }
         const Boite boite = trace.Etendue()->Elargie(elt->Style.Epaisseur + 13.0);
         Compare(image, [&](int x, int y) {
             const bool dedans =
