@@ -55,25 +55,24 @@ TEST(EltProfil, SurfaceBordeeDArcs) {
                 profil.Style.Remplissage = true;
                 const auto image = Peint(profil);
                 EXPECT_TRUE(image == Peint(profil, true)) << "in a band";
-                int faux = 0;
-                for (int i = 0; i < Toile::Hauteur; ++i)
-                    for (int j = 0; j < Toile::Largeur; ++j) {
-                        const double x = j - 100 - decalage, y = 80 - i;
-                        const double carre = std::max({std::abs(x) - cote, -50 - y, y});
-                        const double disque = std::hypot(x, y) - cote;
-                        // Negative within the surface.
-                        const double bord =
-                            dehors ? std::min(carre, disque) : std::max(carre, -disque);
-                        const unsigned vu = Vu(image, j, i);
-                        const bool croix = std::abs(x) < 6 && std::abs(y + 20) < 6;
-                        if (bord > 1.5 && !croix) faux += vu != Blanc;
-                        // The outline lets nothing of the background through.
-                        if (vu == Bleu)
-                            faux += Vu(image, j - 1, i) == Blanc || Vu(image, j + 1, i) == Blanc ||
-                                    Vu(image, j, i - 1) == Blanc || Vu(image, j, i + 1) == Blanc;
-                        if (bord < -2 && !croix) faux += vu != Bleu;
-                    }
-                EXPECT_EQ(faux, 0) << cote << ' ' << decalage << ' ' << dehors;
+                SCOPED_TRACE(testing::Message() << cote << ' ' << decalage << ' ' << dehors);
+                Compare(image, [&](int j, int i) {
+                    const double x = j - decalage, y = i;
+                    const double carre = std::max({std::abs(x) - cote, -50 - y, y});
+                    const double disque = std::hypot(x, y) - cote;
+                    // Negative within the surface.
+                    const double bord = dehors ? std::min(carre, disque) : std::max(carre, -disque);
+                    const auto vu = [&](int dx, int dy) {
+                        return Vu(image, 100 + j + dx, 80 - i + dy);
+                    };
+                    if (std::abs(x) < 6 && std::abs(y + 20) < 6) return -1L;
+                    if (bord > 1.5) return Si(false);
+                    // The outline lets nothing of the background through.
+                    const bool perce = vu(-1, 0) == Blanc || vu(1, 0) == Blanc ||
+                                       vu(0, -1) == Blanc || vu(0, 1) == Blanc;
+                    if (bord < -2) return Si(true, Bleu);
+                    return perce && vu(0, 0) == Bleu ? Si(true, Rouge) : -1L;
+                });
             }
 }
 

@@ -3,6 +3,7 @@
 #include <gdkmm/colormap.h>
 #include <gdkmm/pixbuf.h>
 #include <gdkmm/pixmap.h>
+#include <gtest/gtest.h>
 
 #include <vector>
 
@@ -65,4 +66,22 @@ inline std::vector<unsigned> Peint(const EltGeo& elt, bool bande = false) {
     TraceEcran trace = bande ? toile.Bande() : toile.Pinceau();
     elt.Dessine(trace);
     return toile.Lit();
+}
+
+/// Every pixel against attendu(x, y), x and y counted from the centre, y upward; where that answers
+/// -1 anything may be.
+template <class Attendu>
+void Compare(const std::vector<unsigned>& image, const Attendu& attendu) {
+    int faux = 0;
+    for (int y = 0; y < Toile::Hauteur; ++y)
+        for (int x = 0; x < Toile::Largeur; ++x) {
+            const long voulu = attendu(x - 100, 80 - y);
+            if (voulu >= 0 && Vu(image, x, y) != static_cast<unsigned>(voulu) && ++faux == 1)
+                ADD_FAILURE() << x - 100 << ", " << 80 - y << ": " << std::hex << Vu(image, x, y);
+        }
+    EXPECT_EQ(faux, 0);
+}
+
+inline long Si(bool condition, unsigned couleur = Noir) {
+    return condition ? couleur : Blanc;
 }
