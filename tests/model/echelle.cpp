@@ -1,8 +1,10 @@
 #include "model/echelle.h"
 
 #include "commun/hasard.h"
+#include "elements/eltrectangle.h"
 #include "elements/toile.h"
 #include "elements/verifie.h"
+#include "model/feuille.h"
 #include "model/grille.h"
 
 TEST(Echelle, PassageDessinPixels) {
@@ -125,4 +127,20 @@ TEST(Grille, AccrocheEtPas) {
     EXPECT_LT(g.Pas, 1e-6);
     g.SetPas(3);
     EXPECT_EQ(g.Pas, 3);
+}
+
+TEST(Feuille, SonApercuEstUnCadre) {
+    Feuille feuille;
+    feuille.Papier = {120, 80};
+    feuille.OrigineFeuille = {-40, 50};
+    for (const double echelle : {2.0, 1e-6, 1e9, std::nan("")})  // The last ones cannot be.
+        feuille.SetEchelle(echelle);
+    for (const bool montre : {false, true}) {
+        feuille.ApercuPage = montre;
+        const Toile toile;
+        TraceEcran trace = toile.Pinceau();
+        feuille.DessineApercu(trace);
+        const auto vue = toile.Lit();
+        EXPECT_EQ(vue == Peint(EltRectangle({-40, 50}, {20, 10}, 0)), montre);
+    }
 }

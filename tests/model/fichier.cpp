@@ -149,11 +149,8 @@ TEST_F(Fichier, UnDisquePleinLaisseLAncienFichier) {
 TEST_F(Fichier, EnregistreEtRetient) {
     const std::string nom = Dossier + "/pièce n° 1 à 100%.vek";
     Bdd.EnregistreSous(nom);
-    EXPECT_FALSE(Bdd.Modifie);
     EXPECT_TRUE(Bdd.Nomme);
-    BDDGeo relu;
-    relu.Ouvre(nom);
-    EXPECT_EQ(relu.SauveTexte(), Bdd.SauveTexte());
+    EXPECT_EQ(Lu(nom), Bdd.SauveTexte());
     const std::string adresse = Glib::filename_to_uri(nom);
     const auto recents = Gtk::RecentManager::get_default();
     for (int i = 0; i < 200 && !recents->has_item(adresse); ++i) {
@@ -166,12 +163,6 @@ TEST_F(Fichier, EnregistreEtRetient) {
 
 TEST(Encodage, ToutTexteDevientValide) {
     EXPECT_EQ(EnUtf8("pièce 5 €"), "pièce 5 €");
-    EXPECT_EQ(EnUtf8("pi\xe8"
-                     "ce 5 \x80"),
-              "pièce 5 €");
     // A byte without a character costs no more than itself.
-    EXPECT_EQ(EnUtf8("pi\xe8"
-                     "ce \x81 5")
-                  .substr(0, 6),
-              "pièce ");
+    EXPECT_EQ(EnUtf8("\x80 \x81 \x8a \x9f \xa0 \xe8"), "€ ? Š Ÿ \u00a0 è");
 }
