@@ -1,5 +1,6 @@
 #include "elements/lettres.h"
 
+#include <cairomm/context.h>
 #include <gdk/gdk.h>
 #include <gtest/gtest.h>
 #include <pango/pangocairo.h>
@@ -11,24 +12,20 @@
 namespace {
 
 /// How much ink each column and each row of a picture takes.
-using Encre = std::vector<double>;
-
-Encre Peinte(const std::function<void(cairo_t*)>& peint) {
+std::vector<double> Peinte(const std::function<void(cairo_t*)>& peint) {
     constexpr int largeur = 1600, hauteur = 160;
-    cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_A8, largeur, hauteur);
-    cairo_t* cr = cairo_create(surface);
-    peint(cr);
-    cairo_destroy(cr);
-    cairo_surface_flush(surface);
-    Encre encre(largeur + hauteur);
-    for (int y = 0; y < hauteur; ++y)
-        for (int x = 0; x < largeur; ++x) {
-            const double noir = cairo_image_surface_get_data(
-                surface)[y * cairo_image_surface_get_stride(surface) + x];
-            encre[static_cast<std::size_t>(x)] += noir / 255.0;
-            encre[static_cast<std::size_t>(largeur + y)] += noir / 255.0;
-        }
-    cairo_surface_destroy(surface);
+    const auto surface = Cairo::ImageSurface::create(Cairo::FORMAT_A8, largeur, hauteur);
+    peint(Cairo::Context::create(surface)->cobj());
+    surface->flush();
+    const unsigned char* const octets = surface->get_data();
+    const int pas = surface->get_stride();
+    std::vector<double> encre(largeur + hauteur);
+    for (int i = 0; i < largeur * hauteur; ++i) {
+        const int x = i % largeur, y = i / largeur;
+        const double noir = octets[y * pas + x] / 255.0;
+        encre[static_cast<std::size_t>(x)] += noir;
+        encre[static_cast<std::size_t>(largeur + y)] += noir;
+    }
     return encre;
 }
 
@@ -38,7 +35,7 @@ TEST(Lettres, CommeDesPolicesDeChaqueTaille) {
     PangoContext* contexte = gdk_pango_context_get_for_screen(gdk_screen_get_default());
     PangoLayout* mise = pango_layout_new(contexte);
     int mesures = 0, decalees = 0;
-    for (double taille = 2.0; taille < 75.0; taille *= 1.0371)
+    for (double taille = 2.0; taille < 75.0; taille *= 1.0871)
         for (const char* police : {"Arial", "Nice", "Serif Italic"}) {
             SCOPED_TRACE(testing::Message() << police << ' ' << taille);
             const TexteEcran texte{"Bride à Ø 45 WAVE", police, taille, 0, TexteEcran::Debut, {}};
@@ -55,8 +52,8 @@ TEST(Lettres, CommeDesPolicesDeChaqueTaille) {
             // The same letters at any size that can be read.
             EXPECT_TRUE(cadratin < 8.0 || Lettres::De(texte, cadratin * 1.7) == lettres);
 
-            const Encre voulue = Peinte([mise](cairo_t* cr) { pango_cairo_show_layout(cr, mise); });
-            const Encre vue =
+            const auto voulue = Peinte([mise](cairo_t* cr) { pango_cairo_show_layout(cr, mise); });
+            const auto vue =
                 Peinte([&](cairo_t* cr) { lettres->Peint(cr, cadratin, taille > 60.0); });
             double total = 0.0, ecart = 0.0;
             for (std::size_t i = 0; i < vue.size(); ++i) {

@@ -119,6 +119,9 @@ TEST_F(Secours, NEcritQueCeQuiEstNouveauEtAssezTard) {
     Bdd.Annule();
     EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
     EXPECT_EQ(EnCours().size(), 1u) << "an undo is unsaved work";
+    Net.Oublie();
+    EXPECT_TRUE(Net.Ecrit("Arrêt du programme"));
+    EXPECT_EQ(EnCours().size(), 1u) << "the copy that was there is not any more";
 }
 
 TEST_F(Secours, GardeLesPlusNeuvesParmiNImporteQuoi) {
