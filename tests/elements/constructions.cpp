@@ -1,6 +1,6 @@
 // What each construction makes, worked out by hand in data/constructions.txt: a line for each, the
-// result behind "=". The lines are played again in drawings that are turned and shifted,
-// and must give the same there, but for those behind "-", which keep to the axes or hang on a tie.
+// result behind "=". The lines are played again in drawings that are turned and shifted, and must
+// give the same there, but for those behind "-", which keep to the axes or hang on a tie.
 
 #include <algorithm>
 #include <functional>
