@@ -22,12 +22,13 @@ class Histoire {
     Histoire() {
         Large.Epaisseur = 3;
         Bdd.SignalRetrait().connect([this](EltGeo* elt) { Dit(elt ? "-" + Nom(elt) : "--"); });
+        Bdd.SignalChangement().connect([this] { Dit("+"); });
         Bdd.SignalReprise().connect([this](const EltGeo* elt) { Dit('~' + Nom(elt)); });
     }
 
-    /// What a line gives: the answer, what left and what was taken back, then the drawing from head
-    /// to tail with children, numbers of parents and layers; "*" where it is modified, "!" where it
-    /// is to be saved all the same.
+    /// What a line gives: the answer, "+" for each change that is told, what left and what was
+    /// taken back, then the drawing from head to tail with children, numbers of parents and layers;
+    /// "*" where it is modified, "!" where it is to be saved all the same.
     std::string Joue(const std::string& ligne) {
         std::istringstream mots(ligne);
         std::string commande, mot;
