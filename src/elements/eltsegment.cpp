@@ -119,7 +119,8 @@ PointVek EltSegment::Direction() const {
 }
 
 bool EltSegment::EstFini() const {
-    return Origine.EstFini() && Extremite.EstFini();
+    // Their middle is the position.
+    return (Origine + Extremite).EstFini();
 }
 
 bool EltSegment::EstValide() const {
