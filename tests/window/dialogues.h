@@ -3,23 +3,36 @@
 #include <gtkmm/dialog.h>
 #include <gtkmm/entry.h>
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-class EltGeo;
+/// The parts of a text between two marks.
+std::vector<std::string> Decoupe(const std::string& texte, const std::string& marque);
 
-/// The fields in the order of the screen, the layer last.
-std::vector<Gtk::Entry*> Champs(Gtk::Dialog& dialogue);
+/// What a dialog shows, as the eye reads it: its title, then each line of the screen. A field is in
+/// brackets, a button in angle brackets, a tick has its sign, what has the keys a star.
+std::string Ecran(Gtk::Dialog& dialogue);
 
-using Saisies = std::vector<std::pair<std::size_t, std::string>>;
+/// The fields with the labels that stand on their left on the screen; a label that came before gets
+/// a prime.
+std::vector<std::pair<std::string, Gtk::Widget*>> Champs(Gtk::Dialog& dialogue);
 
-/// Answers the properties of elt after typing into the fields of those ranks, and what prepare
-/// does; the title, then each label with what its field showed.
-std::string Repond(EltGeo& elt, const Saisies& saisies, int reponse = Gtk::RESPONSE_OK,
-                   const std::function<void(Gtk::Dialog&)>& prepare = {});
+/// What a field of those shows.
+std::string TexteDe(Gtk::Widget& champ);
 
-/// Answers the dialog behind a button of the properties.
-void RepondBouton(Gtk::Dialog& dialogue, const Glib::ustring& libelle,
-                  std::function<void(Gtk::Dialog&)> prepare);
+/// Plays gestures, separated by commas: "Rayon=5" types, "Dessus" clicks on what is called so,
+/// "#ff0000" picks a colour, "Trait.Axe" plays one in the dialog behind the button, which is
+/// validated, "Trait!.Axe" in one that is given up.
+void Joue(Gtk::Dialog& dialogue, const std::string& gestes);
+
+/// What came of gestures in a dialog.
+struct Reponse {
+    std::string Vu;     ///< What it showed before.
+    std::string Suivi;  ///< The fields that followed what was typed into another one.
+    std::string Refus;  ///< What was said against it, with the field that has the keys then.
+};
+
+/// Answers the next dialog: plays the gestures in it and validates, or gives up where that is
+/// refused. The reponse lasts until then.
+void RepondGestes(const std::string& gestes, Reponse& reponse);

@@ -10,7 +10,6 @@
 
 #include "bureau.h"
 #include "commun/record.h"
-#include "dialogues.h"
 #include "elements/eltsegment.h"
 #include "model/bddgeo.h"
 #include "model/fichier.h"
