@@ -3,10 +3,8 @@
 #include <gdk/gdkkeysyms.h>
 #include <glib/gstdio.h>
 #include <gtest/gtest.h>
-#include <gtkmm/entry.h>
 #include <gtkmm/filechooserdialog.h>
 #include <gtkmm/messagedialog.h>
-#include <gtkmm/table.h>
 #include <gtkmm/toolbutton.h>
 
 #include <numeric>
@@ -32,17 +30,6 @@ const std::string& Dossier() {
 
 void AjouteSegment() {
     BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
-}
-
-/// Answers the next style dialog after typing the line width.
-void RepondTrait(const std::string& epaisseur, int reponse) {
-    RepondDialogue(reponse, [epaisseur](Gtk::Dialog& dialogue) {
-        // A table gives its children from the last to the first.
-        Gtk::Entry* premiere = nullptr;
-        for (Gtk::Widget* enfant : PremierDe<Gtk::Table>(dialogue)->get_children())
-            if (auto* saisie = dynamic_cast<Gtk::Entry*>(enfant)) premiere = saisie;
-        premiere->set_text(epaisseur);
-    });
 }
 
 bool FermeParLeGestionnaire(Bureau& bureau) {
@@ -284,54 +271,4 @@ TEST(Fermeture, NeFermeQueSiOnLeVeut) {
     std::string texte;
     ASSERT_TRUE(LitFichier(Dossier() + "/ferme.vek", texte));
     EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n3\n");
-}
-
-TEST(Reglages, CalquesGrilleEtTrait) {
-    Bureau bureau;
-    RepondSaisie("4");
-    bureau.Choisit("CalqueCourant");
-    EXPECT_EQ(bureau.LibelleCommencant("Travail").get_text(), "Travail sur 4");
-    bureau.Choisit("Segment");
-    bureau.Souris.ClicA({0, 0});
-    bureau.Souris.ClicA({50, 0});
-    EXPECT_EQ(BddCourante.Elements.Premier()->Calque, 4);
-    RepondSaisie("2");
-    bureau.Choisit("CalquesAfficher");
-    EXPECT_EQ(bureau.LibelleCommencant("Affiché").get_text(), "Affiché 2");
-    EXPECT_EQ(BddCourante.Cherche({25, 0}), nullptr) << "hidden elements are not found";
-
-    RepondSaisie("2,5");
-    bureau.Choisit("GrillePas");
-    EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5);
-    // What would change nothing is said, and asked again.
-    struct Mauvaise {
-        const char* Commande;
-        const char* Saisie;
-        const char* Phrase;
-    };
-    const Mauvaise mauvaises[] = {
-        {"GrillePas", "1e400", "Ce nombre est trop grand."},
-        {"GrillePas", "-3", "Le pas doit dépasser 0."},
-        {"GrillePas", "abc", "Le pas doit dépasser 0."},
-        {"CalqueCourant", "abc", "Il faut le numéro d'un calque."},
-        {"CalquesAfficher", "", "Il faut le numéro d'un calque."},
-        {"Jonc", "0", "Le rayon doit dépasser 0."},
-        {"SurfacePref", "2,4", "Chaque nombre doit valoir 3 au moins."},
-    };
-    for (const Mauvaise& mauvaise : mauvaises) {
-        std::string phrase;
-        RefuseSaisie(mauvaise.Saisie, phrase);
-        bureau.Choisit(mauvaise.Commande);
-        EXPECT_EQ(phrase, mauvaise.Phrase) << mauvaise.Commande;
-    }
-    EXPECT_EQ(bureau.Zone.Vue.GrilleCourante.Pas, 2.5);
-    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_SEGMENT_1);
-
-    RepondTrait("7", Gtk::RESPONSE_OK);
-    bureau.Choisit("Trait");
-    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().Epaisseur, 7);
-    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().PasHachure, 1.0) << "what was not edited stays";
-    RepondTrait("9", Gtk::RESPONSE_CANCEL);
-    bureau.Choisit("Trait");
-    EXPECT_EQ(bureau.Zone.Outils.Protos.Trait().Epaisseur, 7);
 }

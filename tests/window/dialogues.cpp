@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <regex>
 
 #include "commun/banc.h"
 
@@ -76,13 +77,15 @@ std::string NomDe(Gtk::Widget& objet) {
     if (auto* libelle = dynamic_cast<Gtk::Label*>(&objet)) nom = libelle->get_text();
     if (auto* bouton = dynamic_cast<Gtk::Button*>(&objet)) nom = bouton->get_label();
     nom.erase(0, nom.find_first_not_of(' '));
-    return nom;
+    return std::regex_replace(nom, std::regex("\r?\n"), " / ");
 }
 
 std::string Vue(Gtk::Widget& objet) {
     if (auto* coche = dynamic_cast<Gtk::CheckButton*>(&objet))
         return (coche->get_active() ? "+" : "-") + NomDe(objet);
-    if (dynamic_cast<Gtk::FontButton*>(&objet)) return '<' + TexteDe(objet) + '>';
+    if (auto* police = dynamic_cast<Gtk::FontButton*>(&objet))
+        return '<' + TexteDe(objet) + (police->get_show_size() ? " sized" : "") +
+               (police->get_use_font() ? ">" : " plain>");
     if (dynamic_cast<Gtk::Button*>(&objet)) return '<' + NomDe(objet) + '>';
     if (dynamic_cast<Gtk::Entry*>(&objet)) return '[' + TexteDe(objet) + ']';
     return NomDe(objet);
@@ -135,6 +138,10 @@ std::string Ecran(Gtk::Dialog& dialogue) {
     dialogue.create_pango_layout(dialogue.get_title())->get_pixel_size(largeur, hauteur);
     EXPECT_GE(dialogue.get_width(), largeur + 120) << "room for the title and its buttons";
     std::string ecran = dialogue.get_title();
+    // What else the toolkit's palette shows is its own.
+    if (auto* palette = dynamic_cast<Gtk::ColorSelectionDialog*>(&dialogue))
+        return ecran + " | " + palette->get_color_selection()->get_previous_color().to_string() +
+               ' ' + palette->get_color_selection()->get_current_color().to_string();
     for (const Ligne& ligne : Lignes(dialogue)) {
         ecran += " |";
         for (Gtk::Widget* objet : ligne)

@@ -160,7 +160,6 @@ TEST(Proprietes, DuClicDroitAuDeplacement) {
 }
 
 TEST(Proprietes, RienDImpossibleNEntre) {
-    Banc banc;
     BddCourante.ChargeTexte(UnDeChaque());
     std::size_t rang = 0;
     for (EltGeo* elt : BddCourante.Elements)
@@ -176,6 +175,10 @@ TEST(Proprietes, RienDImpossibleNEntre) {
             elt->Proprietes();
             EXPECT_TRUE(elt->EstValide() && elt->Position.EstFini()) << Record(*elt) << saisie;
         }
+    // It can be painted all the same.
+    const std::string texte = BddCourante.SauveTexte();
+    Banc banc;
+    BddCourante.ChargeTexte(texte);
     banc.Zone.Outils.DessinChange();
     LaisseTourner();
 }
