@@ -1,7 +1,6 @@
 #include "bureau.h"
 
 #include <gdk/gdkkeysyms.h>
-#include <gtkmm/filechooserdialog.h>
 #include <gtkmm/menubar.h>
 #include <gtkmm/separatormenuitem.h>
 #include <gtkmm/stock.h>
@@ -37,29 +36,6 @@ void RecolteLibelles(Gtk::Widget& racine, std::vector<Gtk::Label*>& libelles) {
 std::string DossierProvisoire() {
     char modele[] = "/tmp/krvek-fichiers-XXXXXX";
     return g_mkdtemp(modele);
-}
-
-void RepondFichier(const std::string& nom) {
-    Glib::signal_timeout().connect(
-        [nom] {
-            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-                auto* dialogue = dynamic_cast<Gtk::FileChooserDialog*>(fenetre);
-                if (!dialogue || !dialogue->get_mapped()) continue;
-                Gtk::FileChooser& choix = *dialogue;
-                if (choix.get_filename() == nom) {
-                    dialogue->response(Gtk::RESPONSE_OK);
-                    return false;
-                }
-                if (choix.get_action() == Gtk::FILE_CHOOSER_ACTION_SAVE) {
-                    choix.set_current_folder(g_path_get_dirname(nom.c_str()));
-                    choix.set_current_name(g_path_get_basename(nom.c_str()));
-                } else {
-                    choix.set_filename(nom);
-                }
-            }
-            return true;
-        },
-        100);
 }
 
 Bureau::Bureau() : Zone(*PremierDe<ZoneDessin>(Fenetre)), Souris(Zone) {

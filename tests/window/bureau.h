@@ -11,10 +11,6 @@
 /// A new folder.
 std::string DossierProvisoire();
 
-/// Answers the next chooser with a file name, once it has taken it: it reads folders in its own
-/// time.
-void RepondFichier(const std::string& nom);
-
 /// The whole program on an empty drawing, with its menus within reach.
 class Bureau {
   public:

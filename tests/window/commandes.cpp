@@ -28,17 +28,6 @@ const std::string& Dossier() {
     return dossier;
 }
 
-void AjouteSegment() {
-    BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
-}
-
-bool FermeParLeGestionnaire(Bureau& bureau) {
-    GdkEvent evenement = {};
-    evenement.any.type = GDK_DELETE;
-    evenement.any.window = bureau.Fenetre.get_window()->gobj();
-    return !gtk_widget_event(GTK_WIDGET(bureau.Fenetre.gobj()), &evenement);
-}
-
 }  // namespace
 
 TEST(Actions, SontCellesDesFichiers) {
@@ -137,111 +126,9 @@ TEST(Aide, DitOuElleEstSansNavigateur) {
     g_setenv("PATH", chemin.c_str(), true);
 }
 
-TEST(Fichiers, EnregistrerRouvrirAvecAccents) {
+TEST(Fermeture, NonALaLettreDeSonBouton) {
     Bureau bureau;
-    const std::string nom = Dossier() + "/pièce à 100% n°1";
-    AjouteSegment();
-    RepondFichier(nom);
-    bureau.Choisit("Save");
-    EXPECT_EQ(BddCourante.NomFichier, nom + ".vek");
-    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           " + nom + ".vek");
-    EXPECT_FALSE(BddCourante.Modifie);
-
-    bureau.Choisit("New");
-    EXPECT_EQ(BddCourante.Elements.Nombre(), 0);
-    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           ");
-    RepondFichier(nom + ".vek");
-    bureau.Choisit("Open");
-    ASSERT_EQ(BddCourante.Elements.Nombre(), 1);
-    EXPECT_TRUE(BddCourante.Nomme);
-
-    // A name completed by its extension that names a file is asked about; "non" asks anew.
-    AjouteSegment();
-    RepondFichier(nom);
-    bool demande = false;
-    Glib::signal_timeout().connect(
-        [&demande] {
-            for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
-                auto* question = dynamic_cast<Gtk::MessageDialog*>(fenetre);
-                if (!question || !question->get_mapped()) continue;
-                demande = true;
-                question->response(Gtk::RESPONSE_CANCEL);
-                RepondDialogue(Gtk::RESPONSE_CANCEL);
-                return false;
-            }
-            return true;
-        },
-        50);
-    bureau.Choisit("SaveAs");
-    EXPECT_TRUE(demande);
-    std::string texte;
-    ASSERT_TRUE(LitFichier(nom + ".vek", texte));
-    EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n2\n") << "the file is the former one";
-}
-
-TEST(Fichiers, ImporterDemandeUnAutreNom) {
-    Bureau bureau;
-    const std::string ancien = KRVEK_ESSAIS "/exchange/data/version10.vek";
-    std::string texte;
-    ASSERT_TRUE(LitFichier(KRVEK_ESSAIS "/exchange/data/version23.vek", texte));
-    const std::string ve9 = Dossier() + "/plan.ve9", nom = Dossier() + "/repris";
-    ASSERT_TRUE(EcritFichier(ve9, std::string("\0V", 2) + texte));
-
-    // The one asks about what is not saved, the other one does not.
-    AjouteSegment();
-    bureau.Choisit("Segment");
-    RepondFichier(ancien);
-    bureau.Choisit("Vek");
-    EXPECT_EQ(BddCourante.Elements.Nombre(), 8);
-    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
-    RepondDialogue(Gtk::RESPONSE_NO, [&ve9](Gtk::Dialog& dialogue) {
-        EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
-        RepondFichier(ve9);
-    });
-    bureau.Choisit("Ve9");
-    EXPECT_EQ(BddCourante.Elements.Nombre(), 11);
-    EXPECT_EQ(BddCourante.NomFichier, ve9);
-    RepondFichier(nom);
-    bureau.Choisit("Save");
-    EXPECT_EQ(BddCourante.NomFichier, nom + ".vek");
-    EXPECT_EQ(bureau.Fenetre.get_title(), "KR VEK 1.3           " + nom + ".vek");
-}
-
-TEST(Fichiers, DxfAllerEtRetour) {
-    Bureau bureau;
-    const std::string nom = Dossier() + "/pièce";
-    AjouteSegment();
-    const Glib::ustring titre = bureau.Fenetre.get_title();
-    bureau.Choisit("Segment");
-    RepondFichier(nom);
-    bureau.Choisit("ExportDxf");
-    EXPECT_TRUE(BddCourante.Modifie);
-    EXPECT_EQ(BddCourante.NomFichier, "");
-    EXPECT_NE(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
-    // The import asks about what is not saved.
-    RepondDialogue(Gtk::RESPONSE_NO, [&nom](Gtk::Dialog& dialogue) {
-        EXPECT_TRUE(dynamic_cast<Gtk::MessageDialog*>(&dialogue));
-        RepondFichier(nom + ".dxf");
-    });
-    bureau.Choisit("Dxf");
-    // Behind the two blocks of the format.
-    EXPECT_EQ(BddCourante.Elements.Nombre(), 3);
-    EXPECT_EQ(BddCourante.NomFichier, nom + ".dxf");
-    EXPECT_FALSE(BddCourante.Nomme);
-    EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
-    EXPECT_EQ(bureau.Fenetre.get_title(), titre);
-}
-
-TEST(Fermeture, NeFermeQueSiOnLeVeut) {
-    Bureau bureau;
-    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "nothing to save, no question";
-    AjouteSegment();
-
-    // Without a name: the chooser. Escape and the close button are a cancel.
-    RepondDialogue(Gtk::RESPONSE_DELETE_EVENT);
-    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
-    RepondDialogue(Gtk::RESPONSE_CANCEL);
-    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
+    BddCourante.Ajoute(EltSegment({-10, 0}, {10, 0}, 0));
     int essais = 0;
     sigc::connection repondNon = Glib::signal_timeout().connect(
         [&essais] {
@@ -254,21 +141,7 @@ TEST(Fermeture, NeFermeQueSiOnLeVeut) {
             return true;
         },
         100);
-    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture()) << "the letter of its button";
+    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture());
     repondNon.disconnect();
     EXPECT_TRUE(BddCourante.Modifie);
-
-    // With a name: the question.
-    BddCourante.EnregistreSous(Dossier() + "/ferme.vek");
-    AjouteSegment();
-    RepondDialogue(Gtk::RESPONSE_DELETE_EVENT);
-    EXPECT_FALSE(FermeParLeGestionnaire(bureau));
-    EXPECT_EQ(BddCourante.Elements.Nombre(), 2);
-    EXPECT_TRUE(BddCourante.Modifie);
-    RepondDialogue(Gtk::RESPONSE_OK);
-    EXPECT_TRUE(bureau.Fenetre.ConfirmeFermeture());
-    EXPECT_FALSE(BddCourante.Modifie);
-    std::string texte;
-    ASSERT_TRUE(LitFichier(Dossier() + "/ferme.vek", texte));
-    EXPECT_EQ(texte.substr(0, 13), "VERSION3.3\n3\n");
 }

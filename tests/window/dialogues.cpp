@@ -5,8 +5,10 @@
 #include <gtkmm/button.h>
 #include <gtkmm/checkbutton.h>
 #include <gtkmm/colorselection.h>
+#include <gtkmm/filechooserdialog.h>
 #include <gtkmm/fontbutton.h>
 #include <gtkmm/label.h>
+#include <gtkmm/treeview.h>
 
 #include <algorithm>
 #include <map>
@@ -41,7 +43,7 @@ struct Place {
 void RecolteFeuilles(Gtk::Widget& racine, Gtk::Dialog& dialogue, std::vector<Place>& places) {
     if (!racine.get_mapped()) return;
     auto* boite = dynamic_cast<Gtk::Container*>(&racine);
-    if (boite && !dynamic_cast<Gtk::Button*>(&racine)) {
+    if (boite && !dynamic_cast<Gtk::Button*>(&racine) && !dynamic_cast<Gtk::TreeView*>(&racine)) {
         for (Gtk::Widget* enfant : boite->get_children())
             RecolteFeuilles(*enfant, dialogue, places);
         return;
@@ -80,13 +82,30 @@ std::string NomDe(Gtk::Widget& objet) {
     return std::regex_replace(nom, std::regex("\r?\n"), " / ");
 }
 
+/// The words of the second column, without the date; the row that is chosen has a star.
+std::string VueListe(Gtk::TreeView& liste) {
+    std::string vue = "{";
+    for (const Gtk::TreeRow& ligne : liste.get_model()->children()) {
+        char* mots = nullptr;
+        gtk_tree_model_get(liste.get_model()->gobj(), const_cast<GtkTreeIter*>(ligne.gobj()), 1,
+                           &mots, -1);
+        vue += std::string(liste.get_selection()->is_selected(ligne) ? "*" : " ") + mots;
+        g_free(mots);
+    }
+    const std::regex date("[0-9]{2}/[0-9]{2}/[0-9]{4} à [0-9]{2}:[0-9]{2}:[0-9]{2}");
+    return std::regex_replace(std::regex_replace(vue + '}', date, "(date)"), std::regex("\n"),
+                              " / ");
+}
+
 std::string Vue(Gtk::Widget& objet) {
     if (auto* coche = dynamic_cast<Gtk::CheckButton*>(&objet))
         return (coche->get_active() ? "+" : "-") + NomDe(objet);
     if (auto* police = dynamic_cast<Gtk::FontButton*>(&objet))
         return '<' + TexteDe(objet) + (police->get_show_size() ? " sized" : "") +
                (police->get_use_font() ? ">" : " plain>");
-    if (dynamic_cast<Gtk::Button*>(&objet)) return '<' + NomDe(objet) + '>';
+    if (auto* liste = dynamic_cast<Gtk::TreeView*>(&objet)) return VueListe(*liste);
+    if (dynamic_cast<Gtk::Button*>(&objet))
+        return (objet.is_sensitive() ? "<" : "<!") + NomDe(objet) + '>';
     if (dynamic_cast<Gtk::Entry*>(&objet)) return '[' + TexteDe(objet) + ']';
     return NomDe(objet);
 }
@@ -133,11 +152,36 @@ void JoueUn(Gtk::Dialog& dialogue, const std::string& geste) {
 
 }  // namespace
 
+namespace {
+
+/// What a chooser of files offers: its folder, the names that it lists, the name it begins with.
+std::string VueChoix(Gtk::FileChooserDialog& dialogue) {
+    Gtk::FileChooser& choix = dialogue;
+    std::string vue = choix.get_filter()->get_name() + ":";
+    for (const char* nom : {"a.vek", "a.dxf", "a.ve9", "a.pdf", "vek"}) {
+        const GtkFileFilterInfo fiche = {GTK_FILE_FILTER_DISPLAY_NAME, nullptr, nullptr, nom,
+                                         nullptr};
+        if (gtk_file_filter_filter(choix.get_filter()->gobj(), &fiche))
+            vue += std::string(" ") + nom;
+    }
+    vue += " | " + choix.get_current_folder();
+    if (choix.get_action() == Gtk::FILE_CHOOSER_ACTION_SAVE)
+        vue += " [" + PremierDe<Gtk::Entry>(dialogue)->get_text() + "]";
+    const auto* valider = dialogue.get_widget_for_response(Gtk::RESPONSE_OK);
+    const bool parEntree = gtk_window_get_default_widget(dialogue.Gtk::Window::gobj()) ==
+                           const_cast<GtkWidget*>(valider->gobj());
+    return vue + (parEntree ? " *" : "");
+}
+
+}  // namespace
+
 std::string Ecran(Gtk::Dialog& dialogue) {
     int largeur = 0, hauteur = 0;
     dialogue.create_pango_layout(dialogue.get_title())->get_pixel_size(largeur, hauteur);
     EXPECT_GE(dialogue.get_width(), largeur + 120) << "room for the title and its buttons";
     std::string ecran = dialogue.get_title();
+    if (auto* choix = dynamic_cast<Gtk::FileChooserDialog*>(&dialogue))
+        return ecran + " | " + VueChoix(*choix);
     // What else the toolkit's palette shows is its own.
     if (auto* palette = dynamic_cast<Gtk::ColorSelectionDialog*>(&dialogue))
         return ecran + " | " + palette->get_color_selection()->get_previous_color().to_string() +
@@ -171,21 +215,25 @@ void Joue(Gtk::Dialog& dialogue, const std::string& gestes) {
         if (!geste.empty()) JoueUn(dialogue, geste);
 }
 
+void Soumet(Gtk::Dialog& dialogue, const std::string& gestes, Reponse& reponse) {
+    reponse.Vu = Ecran(dialogue);
+    std::map<Gtk::Widget*, std::string> avant;
+    for (const auto& [nom, champ] : Champs(dialogue))
+        avant[champ] = TexteDe(*champ);
+    Joue(dialogue, gestes);
+    for (const auto& [nom, champ] : Champs(dialogue))
+        if ((", " + gestes).find(", " + nom + '=') == std::string::npos &&
+            TexteDe(*champ) != avant[champ])
+            reponse.Suivi += ' ' + nom + " [" + TexteDe(*champ) + ']';
+    reponse.Refus = RefusDe(dialogue);
+    if (reponse.Refus.empty()) return;
+    for (const auto& [nom, champ] : Champs(dialogue))
+        if (champ == dialogue.get_focus()) reponse.Refus += " (" + nom + ')';
+    dialogue.response(Gtk::RESPONSE_CANCEL);
+}
+
 void RepondGestes(const std::string& gestes, Reponse& reponse) {
     RepondDialogue(Gtk::RESPONSE_OK, [gestes, &reponse](Gtk::Dialog& dialogue) {
-        reponse.Vu = Ecran(dialogue);
-        std::map<Gtk::Widget*, std::string> avant;
-        for (const auto& [nom, champ] : Champs(dialogue))
-            avant[champ] = TexteDe(*champ);
-        Joue(dialogue, gestes);
-        for (const auto& [nom, champ] : Champs(dialogue))
-            if ((", " + gestes).find(", " + nom + '=') == std::string::npos &&
-                TexteDe(*champ) != avant[champ])
-                reponse.Suivi += ' ' + nom + " [" + TexteDe(*champ) + ']';
-        reponse.Refus = RefusDe(dialogue);
-        if (reponse.Refus.empty()) return;
-        for (const auto& [nom, champ] : Champs(dialogue))
-            if (champ == dialogue.get_focus()) reponse.Refus += " (" + nom + ')';
-        dialogue.response(Gtk::RESPONSE_CANCEL);
+        Soumet(dialogue, gestes, reponse);
     });
 }

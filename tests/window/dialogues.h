@@ -33,6 +33,8 @@ struct Reponse {
     std::string Refus;  ///< What was said against it, with the field that has the keys then.
 };
 
-/// Answers the next dialog: plays the gestures in it and validates, or gives up where that is
-/// refused. The reponse lasts until then.
+/// Plays the gestures in a dialog and validates, or gives up where that is refused.
+void Soumet(Gtk::Dialog& dialogue, const std::string& gestes, Reponse& reponse);
+
+/// The same with the next dialog. The reponse lasts until then.
 void RepondGestes(const std::string& gestes, Reponse& reponse);
