@@ -66,21 +66,26 @@ void Bureau::Choisit(const std::string& action) {
     throw std::runtime_error("no entry " + action);
 }
 
-void Bureau::Frappe(unsigned touche, unsigned modificateurs) {
+void Bureau::Recoit(GdkEventType genre, unsigned touche, unsigned modificateurs) {
     GdkEvent evenement = {};
-    evenement.key.window = Fenetre.get_window()->gobj();
-    evenement.key.keyval = touche;
-    evenement.key.state = modificateurs;
+    evenement.type = genre;
+    evenement.any.window = Fenetre.get_window()->gobj();
     GdkKeymapKey* codes = nullptr;
     int nombre = 0;
-    if (gdk_keymap_get_entries_for_keyval(nullptr, touche, &codes, &nombre) && nombre > 0)
-        evenement.key.hardware_keycode = static_cast<guint16>(codes[0].keycode);
-    g_free(codes);
-    for (const GdkEventType genre : {GDK_KEY_PRESS, GDK_KEY_RELEASE}) {
-        evenement.type = genre;
-        gtk_widget_event(GTK_WIDGET(Fenetre.gobj()), &evenement);
+    if (genre != GDK_FOCUS_CHANGE) {
+        evenement.key.keyval = touche;
+        evenement.key.state = modificateurs;
+        if (gdk_keymap_get_entries_for_keyval(nullptr, touche, &codes, &nombre) && nombre > 0)
+            evenement.key.hardware_keycode = static_cast<guint16>(codes[0].keycode);
+        g_free(codes);
     }
+    gtk_widget_event(GTK_WIDGET(Fenetre.gobj()), &evenement);
     LaisseTourner();
+}
+
+void Bureau::Frappe(unsigned touche, unsigned modificateurs) {
+    for (const GdkEventType genre : {GDK_KEY_PRESS, GDK_KEY_RELEASE})
+        Recoit(genre, touche, modificateurs);
 }
 
 Gtk::Label& Bureau::LibelleCommencant(const std::string& debut) {

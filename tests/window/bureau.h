@@ -23,6 +23,9 @@ class Bureau {
     /// Chooses the entry of that action.
     void Choisit(const std::string& action);
 
+    /// Hands the window an event of a key, or the loss of the focus.
+    void Recoit(GdkEventType genre, unsigned touche, unsigned modificateurs = 0);
+
     /// Presses and releases a key, as the window receives it.
     void Frappe(unsigned touche, unsigned modificateurs = 0);
 

@@ -2,52 +2,39 @@
 
 #include <gdk/gdkkeysyms.h>
 #include <glib/gstdio.h>
+#include <glibmm/convert.h>
 #include <gtest/gtest.h>
 #include <gtkmm/filechooserdialog.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/toolbutton.h>
 
-#include <numeric>
-#include <set>
-
 #include "bureau.h"
 #include "commun/record.h"
+#include "dialogues.h"
 #include "elements/eltsegment.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
 #include "model/fichier.h"
 #include "window/donnees.h"
+#include "window/listecommandes.h"
 #include "window/menus.h"
 #include "window/tablecommandes.h"
 #include "zone/etats.h"
 
-namespace {
-
-const std::string& Dossier() {
-    static const std::string dossier = DossierProvisoire();
-    return dossier;
-}
-
-}  // namespace
-
-TEST(Actions, SontCellesDesFichiers) {
-    static const char* const genres[] = {"simple", "icone", "stock", "bascule", "recents", "menu"};
-    std::set<std::string> lignes;
-    int nombre = 0;
-    ParcourtCommandes(TableCommandes(), [&](const Enseigne& e, const std::vector<int>&) {
-        ++nombre;
-        lignes.insert(e.Nom + " | " + genres[e.Forme] + " | " + e.Libelle + " | " + e.Bulle +
-                      " | " + e.Touche + " | " + e.Image + '\n');
-        EXPECT_NE(e.Mot(), "") << e.Nom;
-        if (e.Forme != Enseigne::Icone) return;
-        const std::string image =
-            DossierDonnees() + "/icons/hicolor/scalable/actions/" + e.Image + ".svg";
-        EXPECT_EQ(g_access(image.c_str(), R_OK), 0) << image;
-    });
-    const std::string texte = std::accumulate(lignes.begin(), lignes.end(), std::string());
-    EXPECT_EQ(texte, Contenu(KRVEK_ESSAIS "/window/data/commandes.txt"));
-    EXPECT_EQ(static_cast<std::size_t>(nombre), lignes.size()) << "one stands twice";
+TEST(Actions, MenusEtBarreDansLeurOrdre) {
     EXPECT_EQ(DefinitionMenus(), '\n' + Contenu(KRVEK_ESSAIS "/window/data/menus.ui"));
+    ParcourtCommandes(TableCommandes(), [](const Enseigne& e, const std::vector<int>&) {
+        const std::string image = "/icons/hicolor/scalable/actions/" + e.Image + ".svg";
+        EXPECT_TRUE(e.Forme != Enseigne::Icone ||
+                    g_access((DossierDonnees() + image).c_str(), R_OK) == 0)
+            << image;
+    });
+    const std::string page = Contenu(DossierDonnees() + "/aide.htm");
+    EXPECT_EQ(AvecListeCommandes(page), page) << "the help lists the commands";
+    const std::size_t fin = page.find("<!-- /commandes -->");
+    EXPECT_EQ(AvecListeCommandes(page.substr(fin) + page.substr(0, fin)), "");
+    EXPECT_EQ(AvecListeCommandes(page.substr(0, fin)), "");
+    EXPECT_EQ(AvecListeCommandes(page.substr(fin)), "");
 }
 
 TEST(Actions, LesOutilsDisentCeQuIlsFont) {
@@ -83,6 +70,13 @@ TEST(Actions, LesLettresNuesEtLesTouchesArriventUneFois) {
     EXPECT_TRUE(bureau.Zone.Vue.GrilleCourante.Affichee);
     bureau.Frappe(GDK_Escape);
     EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
+    // A key is held until it is released, or until the window hears of keys no more.
+    for (const GdkEventType fin : {GDK_KEY_RELEASE, GDK_FOCUS_CHANGE}) {
+        bureau.Souris.Touche(GDK_Control_L);
+        EXPECT_EQ(bureau.Zone.Outils.Touche, unsigned(GDK_Control_L));
+        bureau.Recoit(fin, GDK_Control_L);
+        EXPECT_EQ(bureau.Zone.Outils.Touche, 0u);
+    }
     bureau.Frappe(GDK_space);
     bureau.Frappe(GDK_Return);
     EXPECT_EQ(bureau.Zone.Outils.EtatCourant(), ETAT_REPOS);
@@ -108,22 +102,29 @@ TEST(Fenetre, SeLitSousUnThemeSombre) {
 }
 
 TEST(Aide, DitOuElleEstSansNavigateur) {
-    const std::string navigateur = Dossier() + "/xdg-open", chemin = g_getenv("PATH");
-    ASSERT_TRUE(EcritFichier(navigateur, "#!/bin/sh\nexit 3\n"));
-    g_chmod(navigateur.c_str(), 0755);
-    g_setenv("PATH", (Dossier() + ":" + chemin).c_str(), true);
+    const std::string dossier = DossierProvisoire(), chemin = g_getenv("PATH");
+    const std::string navigateur = dossier + "/xdg-open", lue = dossier + "/lue";
     Bureau bureau;
-    bool dit = false;
-    RepondDialogue(Gtk::RESPONSE_OK, [&dit](Gtk::Dialog& dialogue) {
-        dit = dynamic_cast<Gtk::MessageDialog*>(&dialogue);
-    });
-    bureau.Choisit("Aide");
-    for (int attente = 0; attente < 500 && !dit; ++attente) {
-        g_usleep(10000);
-        LaisseTourner();
+    std::string dit;
+    // None at all, one that shows nothing, one that shows it.
+    for (const char* code : {"", "3", "0"}) {
+        const std::string script = "#!/bin/sh\n/bin/echo $1 > " + lue + "\nexit " + code + "\n";
+        if (*code) EcritFichier(navigateur, script);
+        g_chmod(navigateur.c_str(), 0755);
+        g_setenv("PATH", dossier.c_str(), true);
+        dit.clear();
+        RepondDialogue(Gtk::RESPONSE_OK, [&dit](Gtk::Dialog& dialogue) { dit = Ecran(dialogue); });
+        bureau.Choisit("Aide");
+        for (int attente = 0; attente < 30 && dit.empty(); ++attente) {
+            g_usleep(10000);
+            LaisseTourner();
+        }
+        g_setenv("PATH", chemin.c_str(), true);
+        const std::string page = DossierDonnees() + "/aide.htm";
+        EXPECT_EQ(Contenu(lue), *code ? Glib::filename_to_uri(page) + '\n' : "");
+        EXPECT_EQ(dit.find(page) == std::string::npos, *code == '0') << dit;
     }
-    EXPECT_TRUE(dit);
-    g_setenv("PATH", chemin.c_str(), true);
+    bureau.Choisit("APropos");
 }
 
 TEST(Fermeture, NonALaLettreDeSonBouton) {

@@ -31,9 +31,12 @@ class Utilisateur {
   public:
     Utilisateur(Bureau& bureau, Main3D& vue) : Lieu(bureau), Vue(vue) {
         for (Gtk::MenuItem* entree : bureau.Entrees()) {
-            // The help starts a browser, leaving ends the test, and the toolkit's own dialog on a
-            // printer does not bear just any text in its fields.
-            static const std::set<std::string> interdites = {"", "Aide", "PrintDialog", "Quit"};
+            // The help starts a browser, leaving ends the test, the toolkit's own dialog on a
+            // printer does not bear just any text in its fields, and its chooser of files takes its
+            // time.
+            static const std::set<std::string> interdites = {
+                "",    "Aide", "PrintDialog", "Quit",      "Open",     "SaveAs",
+                "Dxf", "Ve9",  "Vek",         "ExportPDF", "ExportDxf"};
             if (entree->is_sensitive() && !interdites.count(NomAction(*entree)))
                 Entrees.push_back(entree);
         }
@@ -98,10 +101,8 @@ class Utilisateur {
             GDK_Up, GDK_Down, GDK_Left,      GDK_Right,   GDK_z,   GDK_End, GDK_Escape, GDK_Delete,
             GDK_a,  GDK_s,    GDK_Control_L, GDK_Shift_L, GDK_Tab, GDK_g,   GDK_o,      GDK_l};
         const unsigned touche = touches[Entre(0, 15)];
-        if (touche == GDK_Control_L || touche == GDK_Shift_L)
-            Lieu.Souris.Touche(touche);
-        else
-            Lieu.Frappe(touche);
+        const bool tenue = touche == GDK_Control_L || touche == GDK_Shift_L;
+        tenue ? Lieu.Souris.Touche(touche) : Lieu.Frappe(touche);
     }
 
     void ChoisitAuMenuDroit(int x, int y) {
@@ -111,13 +112,12 @@ class Utilisateur {
 
     /// What another program puts on the clipboard: a drawing, mostly a broken one.
     void OffreUnDessin() {
-        auto texte = std::make_shared<std::string>(Entre(0, 3) ? Mute(Feuille, Fautes) : Feuille);
+        const std::string texte = Entre(0, 3) ? Mute(Feuille, Fautes) : Feuille;
         const std::vector<Gtk::TargetEntry> cibles = {Gtk::TargetEntry("krVekTarget")};
-        Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)
-            ->set(
-                cibles,
-                [texte](Gtk::SelectionData& donnees, guint) { donnees.set("krVekTarget", *texte); },
-                [] {});
+        const auto donne = [texte](Gtk::SelectionData& donnees, guint) {
+            donnees.set("krVekTarget", texte);
+        };
+        Gtk::Clipboard::get(GDK_SELECTION_CLIPBOARD)->set(cibles, donne, [] {});
     }
 
     /// As `Open` does after its question; every fourth file has faults.
@@ -135,12 +135,10 @@ class Utilisateur {
             static const char* const saisies[] = {"", "12", "-7", "0", "1e400", "3,5", "abc"};
             std::vector<Gtk::Entry*> champs;
             Recolte(*dialogue, champs);
-            if (!dynamic_cast<Gtk::FileChooserDialog*>(dialogue))
-                for (Gtk::Entry* champ : champs)
-                    if (Entre(0, 2) == 0) champ->set_text(saisies[Entre(0, 6)]);
-            const bool accepte =
-                Entre(0, 1) == 1 && !dynamic_cast<Gtk::FileChooserDialog*>(dialogue);
-            dialogue->response(accepte ? Gtk::RESPONSE_OK : Gtk::RESPONSE_CANCEL);
+            const bool choix = dynamic_cast<Gtk::FileChooserDialog*>(dialogue);
+            for (Gtk::Entry* champ : champs)
+                if (!choix && Entre(0, 2) == 0) champ->set_text(saisies[Entre(0, 6)]);
+            dialogue->response(!choix && Entre(0, 1) ? Gtk::RESPONSE_OK : Gtk::RESPONSE_CANCEL);
         }
         return true;
     }
@@ -174,27 +172,6 @@ void VerifieFils(const BDDGeoBase& bdd) {
     }
 }
 
-/// The view shows what comes and goes.
-void VerifieRepeint(Main3D& vue) {
-    vue.Frappe(GDK_Escape);
-    for (int i = 0; i < 50; ++i)
-        vue.Frappe(GDK_p);
-    vue.Frappe(GDK_f);
-    vue.Bouge(5.0, 5.0);
-    const Capture avant = vue.Image();
-    EltPave pave;
-    pave.Origine = {-20.0, 20.0};
-    pave.Extremite = {20.0, -20.0};
-    pave.Deplace({0.0, 0.0, 240.0});
-    BddCourante.Ajoute(pave);
-    EXPECT_GT(vue.Image().Ecart(avant), 10000);
-    BddCourante.Annule();
-    // The snap marker waits for the mouse.
-    vue.Bouge(5.0, 5.0);
-    EXPECT_EQ(vue.Image().Ecart(avant), 0);
-    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
-}
-
 }  // namespace
 
 TEST(Hasard, PlusieursMilliersDeGestes) {
@@ -215,9 +192,8 @@ TEST(Hasard, PlusieursMilliersDeGestes) {
     }
     bureau.Zone.Outils.RazEtat();
     VerifieFils(BddCourante);
-    vue.Fenetre.show();
-    VerifieRepeint(vue);
     vue.Fenetre.hide();
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
     LaisseTourner();
     const Capture apres(bureau.Zone.get_window());
     bureau.Zone.Vue.Redessine();

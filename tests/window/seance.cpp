@@ -23,6 +23,7 @@
 #include "model/echelle.h"
 #include "model/feuille.h"
 #include "model/fichier.h"
+#include "window/donnees.h"
 
 namespace fs = std::filesystem;
 
@@ -113,7 +114,10 @@ class Seance {
         for (const CopieSecours& copie : Lieu.Fenetre.Secours.Gardees())
             Recuperation::Jette(copie);
     }
-    ~Seance() { fs::remove_all(Dossier); }
+    ~Seance() {
+        fs::remove_all(Dossier);
+        if (!fs::is_directory(DossierSecours())) fs::remove(DossierSecours());
+    }
 
     void Joue(const std::string& nom) {
         std::string tout;
@@ -185,6 +189,9 @@ class Seance {
             EcritFichier(Dossier + '/' + reste, Contenu(Dossier + "/c.vek"));
         } else if (mot == "enleve") {
             fs::remove_all(Dossier + '/' + reste);
+        } else if (mot == "sansfilet") {
+            fs::remove_all(DossierSecours());
+            EcritFichier(DossierSecours(), "");
         } else {
             Lieu.Choisit(mot);
         }
