@@ -183,7 +183,7 @@ TEST(Hasard, PlusieursMilliersDeGestes) {
     {
         Utilisateur utilisateur(bureau, vue);
         int plus = 0;
-        for (int i = 0; i < 3000; ++i) {
+        for (int i = 0; i < 2000; ++i) {
             utilisateur.Agit();
             plus = std::max(plus, BddCourante.Elements.Nombre());
         }
