@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "elements/eltcote.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
+#include "model/feuille.h"
 
 namespace {
 
@@ -41,6 +43,13 @@ std::string DossierProvisoire() {
 Bureau::Bureau() : Zone(*PremierDe<ZoneDessin>(Fenetre)), Souris(Zone) {
     BddCourante.Vide();
     BddCourante.SetCalqueAffiche(-1);
+    // What another test may have set in the program stays behind it.
+    BddCourante.AfficheBDD = true;
+    BddCourante.Transforme = TransformeColle();
+    NbDecimales = 2;
+    FeuilleCourante.ApercuPage = FeuilleCourante.ImpressionNoir = false;
+    FeuilleCourante.OrigineFeuille = FeuilleCourante.Papier = PointVek();
+    FeuilleCourante.SetEchelle(1.0);
     EchelleCourante.ZoomInit();
     Fenetre.show();
     LaisseTourner();
