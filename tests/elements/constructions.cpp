@@ -272,7 +272,7 @@ const std::map<std::string, Construction> Constructions = {
      }},
     {"etendue",
      [](Ligne& l) {
-         TraceEtendue trace;
+         TraceEtendue trace(true);
          l.Element()->Dessine(trace);
          l.Dit(PointVek(trace.Etendue()->Gauche, -trace.Etendue()->Haut));
          l.Dit(PointVek(trace.Etendue()->Droite, -trace.Etendue()->Bas));

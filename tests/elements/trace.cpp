@@ -287,7 +287,7 @@ TEST(Trace, LaPorteeEtLePapierTiennentCeQuiEstPeint) {
         const Image image = Peint(*elt);
         EXPECT_TRUE(!EstCote(*elt) || Peint(*elt, true) == image) << elt->Nom();
         const Toile vue;
-        TraceEtendue trace;
+        TraceEtendue trace(true);
         elt->Dessine(trace);
         NbDecimales = 2;
         // Dots and tiles are others on paper, marks are none; dashes start elsewhere.

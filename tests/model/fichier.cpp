@@ -114,7 +114,13 @@ TEST_F(Fichier, UnEchecLaisseLeTravailAEnregistrer) {
     ASSERT_TRUE(Bdd.Enregistre());
     ASSERT_TRUE(EcritFichier(Dossier + "/autre.vek", nouveau));
     ASSERT_TRUE(Bdd.EnregistreSous(Dossier + "/autre.vek"));
-    EXPECT_EQ(Nombre(), 6);
+    // One that was not there is somebody else's once it is.
+    Bdd.Ouvre(Dossier + "/neuf.vek");
+    ASSERT_TRUE(EcritFichier(Dossier + "/neuf.vek", nouveau));
+    Bdd.Modifie = true;
+    ASSERT_TRUE(Bdd.Enregistre());
+    EXPECT_EQ(Lu(Dossier + "/neuf.vek~"), nouveau);
+    EXPECT_EQ(Nombre(), 8);
 }
 
 TEST_F(Fichier, UnDisquePleinLaisseLAncienFichier) {
@@ -122,24 +128,28 @@ TEST_F(Fichier, UnDisquePleinLaisseLAncienFichier) {
     fs::create_symlink("plan.vek", lien);
     Recuperation secours(Bdd, Dossier + "/secours");
     ASSERT_TRUE(Bdd.EnregistreSous(lien));
-    const std::string avant = Lu(Chemin);
-    for (int i = 0; i < 200; ++i)
-        Bdd.Ajoute(EltSegment({0.0, i * 5.0}, {10.0, i * 5.0}, 0));
-    // No file may grow beyond that, which is what a full disk looks like.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit libre = {};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &libre), 0);
-    const rlimit plein = {4096, libre.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &plein), 0);
-    const bool ecrit = Bdd.Enregistre();
-    const int erreur = errno;
-    const bool garde = secours.Ecrit("Enregistrement impossible");
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &libre), 0);
-    EXPECT_FALSE(ecrit || garde);
-    EXPECT_EQ(erreur, EFBIG);
-    EXPECT_EQ(Lu(Chemin), avant);
-    EXPECT_TRUE(Bdd.AEnregistrer());
-    EXPECT_TRUE(Bdd.Enregistre());
+    // Written beside it first, and in place where it has two names.
+    for (const bool deuxNoms : {false, true}) {
+        if (deuxNoms) fs::create_hard_link(Chemin, Dossier + "/autre.vek");
+        const std::string avant = Lu(Chemin);
+        for (int i = 0; i < 200; ++i)
+            Bdd.Ajoute(EltSegment({0.0, i * 5.0}, {10.0, i * 5.0}, 0));
+        // No file may grow beyond that, which is what a full disk looks like.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit libre = {};
+        ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &libre), 0);
+        const rlimit plein = {4096, libre.rlim_max};
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &plein), 0);
+        const bool ecrit = Bdd.Enregistre();
+        const int erreur = errno;
+        const bool garde = secours.Ecrit("Enregistrement impossible");
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &libre), 0);
+        EXPECT_FALSE(ecrit || garde);
+        EXPECT_EQ(erreur, EFBIG);
+        EXPECT_EQ(Lu(Chemin), avant);
+        EXPECT_TRUE(Bdd.AEnregistrer());
+        EXPECT_TRUE(Bdd.Enregistre());
+    }
     EXPECT_TRUE(fs::is_symlink(lien));
     EXPECT_GT(Lu(Chemin).size(), 10000u);
     for (const auto& entree : fs::recursive_directory_iterator(Dossier))

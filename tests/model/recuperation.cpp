@@ -126,7 +126,10 @@ TEST_F(Secours, NEcritQueCeQuiEstNouveauEtAssezTard) {
 
 TEST_F(Secours, GardeLesPlusNeuvesParmiNImporteQuoi) {
     fs::create_directories(Dossier);
-    for (const char* nom : {"copie-.vek", "copie-abc.vek", "encours-zut.vek", "lettre.txt"})
+    const char* const etrangers[] = {"copie-.vek",    "copie-99999999999999999999-1.vek",
+                                     "copie-abc.vek", "encours-zut.vek",
+                                     "lettre.txt",    "copie--1.vek"};
+    for (const char* nom : etrangers)
         ASSERT_TRUE(EcritFichier(Dossier + "/" + nom, "\n#copie de secours\ndate -7\nnom xzz\n"));
     fs::create_directory(Dossier + "/copie-000000099-1.vek");
     fs::create_symlink("/dev/zero", Dossier + "/copie-000000098-1.vek");
@@ -140,8 +143,15 @@ TEST_F(Secours, GardeLesPlusNeuvesParmiNImporteQuoi) {
     EXPECT_EQ(copies.front().Elements, 40) << "the newest first";
     EXPECT_EQ(copies.front().Raison, "Remplacé sans être enregistré");
     EXPECT_EQ(copies.back().Elements, 11);
-    EXPECT_EQ(Net.Orphelines().size(), 1u);
-    EXPECT_TRUE(fs::exists(Dossier + "/lettre.txt"));
+    EXPECT_EQ(Net.Orphelines().size(), 0u);
+    for (const char* nom : etrangers)
+        EXPECT_TRUE(fs::exists(Dossier + "/" + nom)) << "what others put there is theirs";
+    // One that is too large drives out none of the others.
+    fs::resize_file(copies[3].Fichier, Recuperation::TailleMax + 1);
+    Dessine(Bdd);
+    ASSERT_TRUE(Net.Garde("Remplacé sans être enregistré"));
+    EXPECT_EQ(Net.Gardees().size(), Recuperation::NombreMax - 1);
+    Recuperation::Jette(Net.Gardees().front());
     Recuperation::Jette(copies.front());
     EXPECT_EQ(Net.Gardees().front().Elements, 39);
 
