@@ -11,7 +11,7 @@ double DistanceParallele = 10.0;
 }  // namespace
 
 bool EltSegment::DemandeParallele(const EltSegment& segment, const PointVek& p) {
-    ReelDialog dialogue("A quelle distance ?", &DistanceParallele, UneDistance());
+    ReelDialog dialogue("A quelle distance ?", &DistanceParallele, UnNombre());
     if (dialogue.run() != Gtk::RESPONSE_OK) return false;
     ParalleleCote(DistanceParallele, segment, p);
     return true;

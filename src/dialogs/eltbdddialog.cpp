@@ -2,6 +2,7 @@
 
 #include "dialogs/champsimage.h"
 #include "dialogs/eltgeodialog.h"
+#include "dialogs/signes.h"
 #include "model/eltbdd.h"
 #include "model/eltimage.h"
 
@@ -12,6 +13,7 @@ class EltBDDDialog : public EltGeoDialog {
     explicit EltBDDDialog(EltBDD& groupe)
         : EltGeoDialog("BDD", groupe), Identificateur(groupe.Identificateur) {
         AjouteChamp("Identificateur", Identificateur);
+        OffreSignes(Identificateur);
     }
 
   private:

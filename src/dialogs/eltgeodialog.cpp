@@ -29,7 +29,7 @@ EltGeoDialog::EltGeoDialog(const Glib::ustring& titre, EltGeo& elt, bool avecPos
 }
 
 void EltGeoDialog::RangeLigne() {
-    Branche(Calque, UnCalque());
+    Branche(Calque, UnNombre());
     Calque.set_width_chars(6);
     Ligne.pack_start(*Gtk::manage(new Gtk::Label("Calque")), Gtk::PACK_SHRINK);
     Ligne.pack_start(Calque);

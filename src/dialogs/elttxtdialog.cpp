@@ -2,6 +2,7 @@
 
 #include "dialogs/nombres.h"
 #include "dialogs/police.h"
+#include "dialogs/signes.h"
 #include "elements/elttxt.h"
 
 namespace {
@@ -16,6 +17,7 @@ ChampsTxt::ChampsTxt(const EltTxt& txt)
       Angle(TexteNombre(txt.GetAngleDegres())),
       Taille(TexteNombre(txt.Taille)) {
     Texte.set_width_chars(32);
+    OffreSignes(Texte);
     MontrePolice(Police, txt.Police);
 }
 

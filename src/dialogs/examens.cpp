@@ -1,5 +1,6 @@
 #include "dialogs/examens.h"
 
+#include "dialogs/expression.h"
 #include "dialogs/nombres.h"
 
 namespace {
@@ -8,16 +9,9 @@ namespace {
 template <class Admet>
 Examen Nombre(const Admet& admet, const Glib::ustring& phrase) {
     return [admet, phrase](const Glib::ustring& texte) -> Glib::ustring {
-        const auto nombre = LitNombre(texte);
-        if (!nombre) return "Ce nombre est trop grand.";
-        return admet(*nombre) ? "" : phrase;
-    };
-}
-
-/// Any number that is typed, a text without one is none.
-Examen NombreTape(const Glib::ustring& phrase) {
-    return [phrase](const Glib::ustring& texte) -> Glib::ustring {
-        return ContientNombre(texte) ? UnNombre()(texte) : phrase;
+        const Evaluation nombre = Evalue(texte);
+        if (!nombre.Valeur) return nombre.Faute;
+        return admet(*nombre.Valeur) ? "" : phrase;
     };
 }
 
@@ -55,12 +49,4 @@ Examen UnEntier(int mini, int maxi, const Glib::ustring& quoi) {
 Examen EntierAuMoins(int mini, const Glib::ustring& quoi) {
     return Nombre([mini](double x) { return EnEntier(x) >= mini; },
                   quoi + " doit valoir " + TexteNombre(mini) + " au moins.");
-}
-
-Examen UnCalque() {
-    return NombreTape("Il faut le numéro d'un calque.");
-}
-
-Examen UneDistance() {
-    return NombreTape("Il faut une distance.");
 }

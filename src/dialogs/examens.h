@@ -8,8 +8,8 @@
 /// where it will do.
 using Examen = std::function<Glib::ustring(const Glib::ustring& texte)>;
 
-// A text without a number counts as 0, and none of those for numbers takes what is not finite. quoi
-// begins the sentence: "Le rayon".
+// None of those takes what is no number: an expression is one. quoi begins the sentence: "Le
+// rayon".
 
 /// Any number.
 Examen UnNombre();
@@ -31,9 +31,3 @@ Examen UnEntier(int mini, int maxi, const Glib::ustring& quoi);
 
 /// mini or more once it is rounded.
 Examen EntierAuMoins(int mini, const Glib::ustring& quoi);
-
-/// A number that has to be typed: a layer that nobody named is not layer 0.
-Examen UnCalque();
-
-/// The same for a distance.
-Examen UneDistance();

@@ -47,6 +47,8 @@ Glib::ustring Phrase(const mu::Parser::exception_type& faute) {
     const Glib::ustring mot = "« " + faute.GetToken() + " »";
     switch (faute.GetCode()) {
         case mu::ecUNASSIGNABLE_TOKEN:
+            if (g_ascii_isdigit(faute.GetToken().front())) return "Ce nombre est trop grand.";
+            return mot + " n'est pas un nombre.";
         case mu::ecINVALID_CHARACTERS_FOUND:
         case mu::ecINVALID_NAME:
             return mot + " n'est pas un nombre.";

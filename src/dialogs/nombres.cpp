@@ -1,12 +1,9 @@
 #include "dialogs/nombres.h"
 
-#include <glib.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <string>
 
 Glib::ustring TexteComplet(double valeur) {
     char texte[32];
@@ -27,32 +24,6 @@ Glib::ustring TexteNombre(double valeur) {
         fin = std::to_chars(texte, texte + sizeof texte, valeur, std::chars_format::scientific);
     }
     return std::string(texte, fin.ptr);
-}
-
-namespace {
-
-/// Comma and point are both decimal signs.
-std::string AvecPoint(const Glib::ustring& texte) {
-    std::string nombre = texte.raw();
-    std::replace(nombre.begin(), nombre.end(), ',', '.');
-    return nombre;
-}
-
-}  // namespace
-
-bool ContientNombre(const Glib::ustring& texte) {
-    const std::string nombre = AvecPoint(texte);
-    char* fin = nullptr;
-    g_ascii_strtod(nombre.c_str(), &fin);
-    return fin != nombre.c_str();
-}
-
-std::optional<double> LitNombre(const Glib::ustring& texte) {
-    const std::string nombre = AvecPoint(texte);
-    // The function of the C library: its C++ cover throws on 1e400.
-    const double valeur = g_ascii_strtod(nombre.c_str(), nullptr);
-    if (!std::isfinite(valeur)) return std::nullopt;
-    return valeur;
 }
 
 int EnEntier(double valeur) {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "dialogs/nombres.h"
+#include "dialogs/expression.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ ChampSaisie::ChampSaisie(const Glib::ustring& texte, int longueurMax) {
 }
 
 std::optional<double> ChampSaisie::Nombre() const {
-    return Modifie ? LitNombre(get_text()) : std::nullopt;
+    return Modifie ? Evalue(get_text()).Valeur : std::nullopt;
 }
 
 SaisieDialog::SaisieDialog(const Glib::ustring& titre) : Gtk::Dialog(titre, true), Champs(1, 2) {

@@ -15,7 +15,7 @@
 
 void DessinWindow::CalqueCourant() {
     int calque = Zone.Outils.Protos.Calque();
-    IntDialog dialogue("Numéro du calque courant", &calque, UnCalque());
+    IntDialog dialogue("Numéro du calque courant", &calque, UnNombre());
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     Zone.Outils.Protos.SetCalque(calque);
     AfficheCalques();
@@ -23,7 +23,7 @@ void DessinWindow::CalqueCourant() {
 
 void DessinWindow::CalquesAfficher() {
     int calque = BddCourante.CalqueAffiche();
-    IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque, UnCalque());
+    IntDialog dialogue("Numéro du calque à afficher, -1 pour tout afficher !", &calque, UnNombre());
     if (dialogue.run() != Gtk::RESPONSE_OK) return;
     Zone.Outils.SetCalqueAffiche(calque);
     AfficheCalques();

@@ -1,6 +1,7 @@
 #include "commun/record.h"
 
 #include <glib/gstdio.h>
+#include <glibmm/regex.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -28,6 +29,11 @@ std::string Resume(const BilanLecture& bilan) {
     for (const auto& [genre, nombre] : bilan.Laisses)
         resume += ", " + std::to_string(nombre) + ' ' + genre;
     return resume;
+}
+
+std::string Remplace(const std::string& texte, const char* motif, const char* par) {
+    const auto regle = Glib::Regex::create(motif, Glib::REGEX_RAW);
+    return regle->replace(texte, 0, par, static_cast<Glib::RegexMatchFlags>(0));
 }
 
 std::string Contenu(const std::string& chemin) {

@@ -14,6 +14,9 @@ std::string DerniereLigne(const EltGeo& elt);
 /// What was read of what is announced, whether to the end, and what was left out.
 std::string Resume(const BilanLecture& bilan);
 
+/// The text with what fits the regular expression replaced throughout.
+std::string Remplace(const std::string& texte, const char* motif, const char* par);
+
 /// The bytes of a file.
 std::string Contenu(const std::string& chemin);
 

@@ -12,9 +12,9 @@
 
 #include <algorithm>
 #include <map>
-#include <regex>
 
 #include "commun/banc.h"
+#include "commun/record.h"
 
 std::vector<std::string> Decoupe(const std::string& texte, const std::string& marque) {
     std::vector<std::string> parts;
@@ -79,7 +79,7 @@ std::string NomDe(Gtk::Widget& objet) {
     if (auto* libelle = dynamic_cast<Gtk::Label*>(&objet)) nom = libelle->get_text();
     if (auto* bouton = dynamic_cast<Gtk::Button*>(&objet)) nom = bouton->get_label();
     nom.erase(0, nom.find_first_not_of(' '));
-    return std::regex_replace(nom, std::regex("\r?\n"), " / ");
+    return Remplace(nom, "\r?\n", " / ");
 }
 
 /// The words of the second column, without the date; the row that is chosen has a star.
@@ -92,9 +92,8 @@ std::string VueListe(Gtk::TreeView& liste) {
         vue += std::string(liste.get_selection()->is_selected(ligne) ? "*" : " ") + mots;
         g_free(mots);
     }
-    const std::regex date("[0-9]{2}/[0-9]{2}/[0-9]{4} à [0-9]{2}:[0-9]{2}:[0-9]{2}");
-    return std::regex_replace(std::regex_replace(vue + '}', date, "(date)"), std::regex("\n"),
-                              " / ");
+    const char date[] = "[0-9]{2}/[0-9]{2}/[0-9]{4} à [0-9]{2}:[0-9]{2}:[0-9]{2}";
+    return Remplace(Remplace(vue + '}', date, "(date)"), "\\n", " / ");
 }
 
 std::string Vue(Gtk::Widget& objet) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <gtkmm/checkbutton.h>
 
-#include <regex>
 #include <sstream>
 
 #include "commun/banc.h"
@@ -64,7 +63,7 @@ std::string Ecart(const std::string& avant, const std::string& apres) {
     std::string ecart;
     for (std::size_t i = 0; i < std::min(lignes.size(), autres.size()); ++i)
         if (lignes[i] != autres[i]) ecart += " | " + autres[i];
-    return std::regex_replace(ecart, std::regex("-?[0-9.]+e-1[0-9]"), "0");
+    return Remplace(ecart, "-?[0-9.]+e-1[0-9]", "0");
 }
 
 /// What the gestures in the dialog of an element do to the other fields and to its record, or what

@@ -10,7 +10,6 @@
 
 #include <filesystem>
 #include <map>
-#include <regex>
 #include <sstream>
 
 #include "bureau.h"
@@ -34,8 +33,8 @@ template <class... Valeurs>
 std::string Ligne(const Valeurs&... valeurs) {
     Ecrivain sortie;
     ((sortie << valeurs << ' '), ...);
-    const std::string texte = std::regex_replace(sortie.Texte(), std::regex("\\s+$"), "");
-    return std::regex_replace(texte, std::regex("\\s*\n\\s*"), " ");
+    const std::string texte = Remplace(sortie.Texte(), "\\s+$", "");
+    return Remplace(texte, "\\s*\n\\s*", " ");
 }
 
 /// The words of the status row that are shown.
