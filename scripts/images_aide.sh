@@ -684,7 +684,27 @@ image_bandeau() {
     rm -rf "$bureau/home/krvek"
 }
 
-images="recuperation bandeau formes segments arcs profils cotes cotes_rondes edition accroche
+# A plate whose second hole is being typed, with the mark at the point that was given last.
+image_saisie() {
+    demarre
+    commande Rectangle
+    pts -50 30 50 -30
+    commande CercleRayon
+    valide "Rayon" 5.5
+    va "$(en_x 90)" "$(en_y 20)"
+    xdotool type --delay 30 -- "-40;20"
+    xdotool key Return
+    sleep 0.2
+    xdotool type --delay 30 -- "@160/2;0"
+    photo "$nom"
+    convert "$bureau/$nom.png" -crop 1280x520+0+380 +repage -resize 760x "$bureau/$nom.png"
+    xdotool key Escape
+    kill -9 "$programme"
+    wait "$programme" 2> /dev/null || true
+    rm -rf "$bureau/home/krvek"
+}
+
+images="recuperation bandeau saisie formes segments arcs profils cotes cotes_rondes edition accroche
     corps profils_espace tubes percages fenetre3d"
 for image in "$@"; do
     [[ " ${images//$'\n'/ } " == *" $image "* ]] || { echo "No such picture: $image" >&2; exit 1; }
