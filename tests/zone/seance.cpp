@@ -288,6 +288,8 @@ Capture Seance::ExigeRepeinte(bool enBande) {
 }
 
 void Seance::ExigeBande(const Capture& bande, const Capture& element, bool autre) {
+    // Since the area has another size it was not seen without a band.
+    if (Vide->Image->get_height() != bande.Image->get_height()) return;
     EXPECT_GT(Ecart(bande, *Vide), 0) << "there is no band";
     const int ecart = autre ? 0 : bande.EcartSur(*Vide, element);
     if (ecart == 0) return;
