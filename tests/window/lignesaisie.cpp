@@ -15,12 +15,13 @@
 
 namespace {
 
-/// Answers every dialog that comes, with a number where it asks for one.
+/// Answers every dialog that comes, where it asks for a number with the one that it begins with:
+/// some keep the last one for as long as the program runs.
 bool ValideTout() {
     for (Gtk::Window* fenetre : Gtk::Window::list_toplevels()) {
         auto* dialogue = dynamic_cast<Gtk::Dialog*>(fenetre);
         if (!dialogue || !dialogue->get_mapped()) continue;
-        if (auto* champ = PremierDe<Gtk::Entry>(*dialogue)) champ->set_text("7");
+        if (auto* champ = PremierDe<Gtk::Entry>(*dialogue)) champ->set_text("10");
         dialogue->response(Gtk::RESPONSE_OK);
     }
     return true;
