@@ -129,3 +129,24 @@ TEST(LigneSaisie, MotsFautesEtPasse) {
     clavier.Frappe(GDK_Escape);
     EXPECT_EQ(clavier.Zone.Outils.EtatCourant(), ETAT_CERCLE_2) << "the tool stays";
 }
+
+TEST(LigneSaisie, LaLigneDEtatDitOuAgitLeClic) {
+    Clavier clavier;
+    clavier.Fenetre.resize(1200, 700);
+    LaisseTourner();
+    clavier.Choisit("Segment");
+    clavier.Choisit("Grille");
+    clavier.Souris.BougeA({-236, 149});
+    LaisseTourner();
+    Gtk::Label& clic = clavier.LibelleCommencant("clic");
+    EXPECT_EQ(clic.get_text(), "clic -240 ; 150 (grille)");
+    EXPECT_TRUE(clic.get_visible());
+    const int invite = clavier.LibelleCommencant("Position").get_allocation().get_width();
+    EXPECT_GT(invite, 100) << "the prompt keeps its place";
+    clavier.Souris.BougeA({-240, 150});
+    EXPECT_FALSE(clic.get_visible()) << "right there";
+    clavier.Souris.BougeA({-236, 149});
+    clavier.Frappe(GDK_Escape);
+    EXPECT_FALSE(clic.get_visible()) << "a click does nothing";
+    clavier.Choisit("Grille");
+}

@@ -7,6 +7,7 @@
 #include "commun/banc.h"
 #include "commun/evenements.h"
 #include "elements/angles.h"
+#include "elements/eltprofil.h"
 #include "elements/eltrectangle.h"
 #include "model/bddgeo.h"
 #include "model/echelle.h"
@@ -107,6 +108,26 @@ TEST(Saisie, PointsSpeciauxAuChoix) {
     speciales.Quadrants = true;
     EXPECT_TRUE(ChercheAccroches(BddCourante, {0, -50}, options, speciales, {}).empty())
         << "the arc does not pass there";
+    speciales.Proches = true;
+    const auto deux = ChercheAccroches(BddCourante, {5, 49.75}, options, speciales, {});
+    ASSERT_EQ(deux.size(), 2u);
+    EXPECT_STREQ(deux[0].Genre, "quadrant") << "though the other one is nearer";
+    EXPECT_STREQ(deux[1].Genre, "sur l'élément");
+
+    // The sides of a closed profile, and half a turn about (-200, 0) to (-200, -40).
+    EltProfil profil;
+    profil.Position = {-200, -20};
+    profil.Sommets = {SommetProfil(PointVek(0, 20)), SommetProfil(PointVek(0, -20), 20),
+                      SommetProfil(PointVek(-60, -20))};
+    BddCourante.Ajoute(profil);
+    speciales = {};
+    speciales.Milieux = true;
+    for (const PointVek& milieu : {PointVek(-180, -20), PointVek(-230, -40), PointVek(-230, -20)}) {
+        const auto vus =
+            ChercheAccroches(BddCourante, milieu + PointVek(1, 1), options, speciales, {});
+        ASSERT_EQ(vus.size(), 1u) << milieu.x << ' ' << milieu.y;
+        EXPECT_NEAR(Distance(vus[0].Point, milieu), 0.0, 1e-9);
+    }
 
     // A crossing far away hides the end that is near where that is not wished.
     BddCourante.Vide();
@@ -145,8 +166,10 @@ TEST(Saisie, LaVueEtSesPrecedentes) {
     for (const double x : {310.0, 400.0, 450.0})
         EnvoieMouvement(banc.Zone, x, 250, GDK_BUTTON2_MASK);
     EXPECT_NEAR(Distance(banc.Zone.Souris.Position(), saisi), 0.0, 1e-9);
+    const Capture avant = banc.Image();
     for (int pas = 0; pas < 3; ++pas)
         banc.Zone.VuePrecedente();
+    EXPECT_GT(banc.Image().Ecart(avant), 100);
     EXPECT_NEAR(EchelleCourante.Facteur, facteur, 1e-12);
     EXPECT_NEAR(Distance(EchelleCourante.Origine, {1100, 600}), 0.0, 1e-9);
     for (int pas = 0; pas < 40; ++pas)
