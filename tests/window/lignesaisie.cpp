@@ -9,6 +9,7 @@
 #include "elements/angles.h"
 #include "elements/eltarc.h"
 #include "model/bddgeo.h"
+#include "model/echelle.h"
 #include "solids/eltpave.h"
 #include "zone/etats.h"
 #include "zone/tableetats.h"
@@ -128,6 +129,34 @@ TEST(LigneSaisie, MotsFautesEtPasse) {
     EXPECT_EQ(BddCourante.Elements.Nombre(), 1);
     clavier.Frappe(GDK_Escape);
     EXPECT_EQ(clavier.Zone.Outils.EtatCourant(), ETAT_CERCLE_2) << "the tool stays";
+
+    const auto nombres = [&clavier](unsigned touche, unsigned etat) {
+        clavier.Frappe(touche, etat);
+        return BddCourante.Elements.Nombre();
+    };
+    EXPECT_EQ(nombres(GDK_z, GDK_CONTROL_MASK), 0);
+    EXPECT_EQ(nombres(GDK_z, GDK_CONTROL_MASK | GDK_SHIFT_MASK), 1);
+}
+
+TEST(LigneSaisie, LaBandeMontreCeQuiEstTape) {
+    Clavier clavier;
+    clavier.Choisit("Segment");
+    clavier.Souris.ClicA({0, 0});
+    clavier.Souris.BougeA({50, 50});
+    const auto noir = [&clavier](const PointVek& p) {
+        LaisseTourner();
+        const PointVek pixel = EchelleCourante.VersEcran(p);
+        return Capture(clavier.Zone.get_window())
+                   .Pixel(static_cast<int>(pixel.x), static_cast<int>(pixel.y)) == 0;
+    };
+    EXPECT_TRUE(noir({25, 25}));
+    clavier.Tape("100;0");
+    EXPECT_TRUE(noir({70, 0}));
+    EXPECT_FALSE(noir({25, 25}));
+    clavier.Souris.BougeA({-50, 50});
+    EXPECT_TRUE(noir({70, 0})) << "wherever the mouse goes";
+    clavier.Frappe(GDK_Escape);
+    EXPECT_TRUE(noir({-25, 25}));
 }
 
 TEST(LigneSaisie, LaLigneDEtatDitOuAgitLeClic) {
