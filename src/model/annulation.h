@@ -142,6 +142,7 @@ class Historique {
     BDDGeo& Bdd;
     Pile Faits;    ///< The newest last.
     Pile Defaits;  ///< The one undone last is last.
-    unsigned long Vu =
-        0;  ///< The drawing's count of changes when a step was last undone or redone.
+
+    /// The drawing's count of changes when a step was last undone or redone.
+    unsigned long Vu = 0;
 };

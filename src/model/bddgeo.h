@@ -198,9 +198,10 @@ class BDDGeo : public BDDGeoBase {
     mutable TableRecherche Table;
     sigc::signal<void, EltGeo*> Retrait;
     unsigned long NbChangements = 0;
-    std::string EtatFichier;           ///< Of the drawing's file when it was last read or written.
-    std::string EtatGarde;             ///< Of the file when a copy of it was last kept.
-    std::size_t EmpreinteFichier = 0;  ///< Of its content then.
+    std::string EtatFichier;  ///< Of the drawing's file when it was last read or written.
+    std::string EtatGarde;    ///< Of the file when a copy of it was last kept.
+    /// Of the file's content when it was last read or written.
+    std::size_t EmpreinteFichier = 0;
     unsigned long NbEcrits = 0;  ///< That count when the file was last known to hold the drawing.
     sigc::signal<void> SignauxChangement;
     sigc::signal<void, const EltGeo*> Reprise;
